@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "OrlinCustomDialogs/public_classes.h"
+#include "OrlinCustomDialogs/value.h"
+
+namespace orlin {
+
+/// The parameters of a panel as a host application keeps them, in a file:
+///
+///     {
+///       "panel": "Willow",
+///       "levels": ["AuthorityLevel=2,2"],
+///       "parameters": [
+///         {
+///           "name": "Zone 5, function code",
+///           "class": "clsZoneFunctionsWillow",
+///           "arguments": {"ZoneNum": "5", "ZoneCode": "\"2035\""},
+///           "levels": []
+///         }
+///       ]
+///     }
+///
+/// An argument is written as on the command line, so that its kind is kept: 5 is an Integer, 5L a Long, 5D a Double,
+/// "\"5\"" a String, [1,0*7] an array. Those that are not there are empty, or 0. The levels of the account come before
+/// those of a parameter, "NAME=VIEW,EDIT" each. What else stands in the file stays there.
+class Account {
+ public:
+  struct Parameter {
+    std::string Name;
+    const PublicClass* Class = nullptr;
+    std::vector<std::string> Arguments;  ///< NAME=VALUE, in the order of the file
+    std::vector<std::string> Levels;     ///< NAME=VIEW,EDIT
+  };
+
+  /// Reads the file. `UsageError` where it cannot be read, or makes no sense.
+  explicit Account(std::filesystem::path file);
+
+  [[nodiscard]] const std::string& Panel() const noexcept { return panel_; }
+  [[nodiscard]] const std::vector<Parameter>& Parameters() const noexcept { return parameters_; }
+
+  /// The arguments of the call that edits a parameter.
+  [[nodiscard]] std::vector<Value> ArgumentsOf(std::size_t parameter) const;
+
+  /// Stores what a confirmed call brought back. The file holds either the old values or the new ones, whatever happens
+  /// meanwhile. Tells whether anything is different. `UsageError` where it cannot be written; then nothing changes.
+  bool Store(std::size_t parameter, const std::vector<Value>& arguments);
+
+ private:
+  void Read(const std::string& text);
+
+  std::filesystem::path file_;
+  std::string text_;  // of the file
+  std::string panel_;
+  std::vector<Parameter> parameters_;
+};
+
+}  // namespace orlin

@@ -1,0 +1,108 @@
+#include "app/account_command.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+#include <utility>
+
+#include "OrlinCustomDialogs/failure.h"
+
+#include "app/account.h"
+#include "app/account_rules.h"
+#include "app/edit.h"
+#include "app/installed_platform.h"
+#include "app/usage_error.h"
+
+namespace orlin {
+namespace {
+
+/// The parameters of an account, each opened in its editor.
+class AccountTable final : public ParameterTable {
+ public:
+  explicit AccountTable(Account& account) : account_(account) {}
+
+  [[nodiscard]] std::string Title() const override { return "Account of panel " + account_.Panel(); }
+  [[nodiscard]] std::vector<std::string> Columns() const override { return {"Parameter", "Editor", "Raw values"}; }
+  [[nodiscard]] std::size_t Rows() const override { return account_.Parameters().size(); }
+
+  [[nodiscard]] std::vector<std::string> Row(std::size_t row) const override {
+    const auto& parameter = account_.Parameters().at(row);
+    std::string values;
+    for (const auto& argument : parameter.Arguments) values.append(values.empty() ? "" : "  ").append(argument);
+    return {parameter.Name, parameter.Class->Name(), values};
+  }
+
+  std::string Open(std::size_t row) override {
+    const auto& parameter = account_.Parameters().at(row);
+    try {
+      return parameter.Name + ": " + Edit(row);
+    } catch (const Failure& failure) {
+      return parameter.Name + ": failure " + std::to_string(failure.Number()) + ", " + failure.Description();
+    } catch (const UsageError& error) {
+      return parameter.Name + ": not stored, " + error.what();
+    }
+  }
+
+ private:
+  std::string Edit(std::size_t row) {
+    const auto& editor = *account_.Parameters().at(row).Class;
+    const auto kept = account_.ArgumentsOf(row);
+    auto arguments = ArgumentsForCall(editor, kept);
+    const auto result = editor.Display(arguments);
+    const auto told = "result " + std::to_string(result);
+    if (!Confirmed(editor, result, arguments)) return told + ", not changed";
+    return told + (account_.Store(row, RawValuesAfter(editor, kept, std::move(arguments))) ? ", stored"
+                                                                                           : ", the same as before");
+  }
+
+  Account& account_;
+};
+
+/// The file of a parameter's picture: "Zone 5, code" becomes "zone-5-code".
+std::string FileNameOf(const std::string& parameter) {
+  std::string name;
+  for (const char c : parameter) {
+    const bool keeps = (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
+    const bool capital = c >= 'A' && c <= 'Z';
+    if (keeps || capital) {
+      name.push_back(static_cast<char>(capital ? c - 'A' + 'a' : c));
+    } else if (!name.empty() && name.back() != '-') {
+      name.push_back('-');
+    }
+  }
+  while (name.ends_with('-')) name.pop_back();
+  return name;
+}
+
+void SavePictures(const Account& account, AccountOptions& options, const WindowOpener& windows) {
+  // Pictures need no display.
+  constexpr int keepWhatIsSet = 0;
+  setenv("QT_QPA_PLATFORM", "offscreen", keepWhatIsSet);
+  std::size_t row = 0;
+  options.Platform.Host = windows().Pictures({*options.PictureFolder, options.FontScale, options.Dark},
+                                             [&] { return FileNameOf(account.Parameters().at(row).Name); });
+  const InstalledPlatform installed(StandardPlatform(options.Platform));
+  for (; row < account.Parameters().size(); ++row) {
+    const auto& editor = *account.Parameters()[row].Class;
+    auto arguments = ArgumentsForCall(editor, account.ArgumentsOf(row));
+    static_cast<void>(editor.Display(arguments));
+  }
+}
+
+}  // namespace
+
+int ShowAccount(AccountOptions options, const WindowOpener& windows) {
+  Account account(options.File);
+  if (options.PictureFolder) {
+    SavePictures(account, options, windows);
+    return status::Done;
+  }
+  auto& system = windows();
+  options.Platform.Host = system.Windows();
+  const InstalledPlatform installed(StandardPlatform(options.Platform));
+  AccountTable table(account);
+  system.ShowTable(table);
+  return status::Done;
+}
+
+}  // namespace orlin

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstdint>
+#include <istream>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "OrlinCustomDialogs/public_classes.h"
+
+#include "qt/window_system.h"
+#include "script/script.h"
+#include "standard_platform.h"
+
+namespace orlin {
+
+/// Exit statuses of the command.
+namespace status {
+inline constexpr int Done = 0;
+inline constexpr int NotConfirmed = 1;
+inline constexpr int NoSense = 2;  ///< the call makes no sense, or its output cannot be written
+inline constexpr int Failed = 3;
+inline constexpr int Refused = 4;
+}  // namespace status
+
+enum class HostKind { Script, Windows };
+
+/// `orlin-host edit`, as the command line tells it.
+struct EditOptions {
+  std::string Class;
+  std::vector<std::string> Arguments;  ///< NAME=VALUE
+  std::vector<std::string> Levels;     ///< NAME=VIEW,EDIT
+  std::optional<std::string> Script;   ///< a file, or "-" for standard input
+  std::optional<HostKind> Host;
+  StandardPlatformOptions Platform;
+  bool ExitStatus = false;
+  bool Strict = false;
+};
+
+/// Opens a public class, tells what happens on `out`, and returns the exit status. What makes no sense is thrown as
+/// `UsageError` or `PlatformError` before the class is called.
+int Edit(const EditOptions& options, std::istream& in, std::ostream& out, const WindowOpener& windows);
+
+/// One call of `Display` with an operator made of text.
+struct ScriptedCall {
+  const PublicClass& Class;
+  std::vector<Value> Arguments;
+  std::vector<Action> Script;
+  bool Strict = false;
+  StandardPlatformOptions Platform;
+  WindowSystem* Windows = nullptr;  ///< the operator works these windows; null: there is no screen
+};
+
+/// What came of it.
+struct Outcome {
+  std::optional<std::int32_t> Result;  ///< nothing where the class let a failure through
+  std::int32_t Raised = 0;             ///< the number of that failure
+  std::vector<Value> Arguments;
+};
+
+/// Makes the call, with a trace on `out`. Throws `StrictRefusal` (see `ScriptPlayer`), and `PlatformError`.
+Outcome Run(ScriptedCall call, std::ostream& out);
+
+}  // namespace orlin

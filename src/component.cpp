@@ -1,0 +1,70 @@
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "OrlinCustomDialogs/exports.h"
+#include "OrlinCustomDialogs/failure.h"
+
+#include "frame/live_objects.h"
+#include "frame/services.h"
+#include "options/register.h"
+#include "outputs/register.h"
+#include "schedules/register.h"
+#include "verification/register.h"
+#include "wireless/register.h"
+#include "zones/register.h"
+
+// The component as a whole: the public classes of all subsystems in one register, and the entry points on it.
+
+namespace orlin {
+namespace {
+
+constexpr std::string_view kComponentName = "OrlinCustomDialogs.";
+
+std::vector<PublicClass> Collect() {
+  std::vector<PublicClass> all;
+  for (const auto classesOf :
+       {OptionsClasses, OutputsClasses, SchedulesClasses, VerificationClasses, WirelessClasses, ZonesClasses}) {
+    for (auto& publicClass : classesOf()) all.push_back(std::move(publicClass));
+  }
+  std::sort(all.begin(), all.end(), [](const auto& a, const auto& b) { return a.Name() < b.Name(); });
+  return all;
+}
+
+std::string FullName(const PublicClass& publicClass) { return std::string(kComponentName) + publicClass.Name(); }
+
+}  // namespace
+
+const std::vector<PublicClass>& PublicClasses() {
+  static const std::vector<PublicClass> all = Collect();
+  return all;
+}
+
+const PublicClass* FindPublicClass(std::string_view name) {
+  if (name.starts_with(kComponentName)) name.remove_prefix(kComponentName.size());
+  const auto& all = PublicClasses();
+  const auto found = std::find_if(all.begin(), all.end(), [&](const auto& known) { return known.Name() == name; });
+  return found == all.end() ? nullptr : &*found;
+}
+
+}  // namespace orlin
+
+std::int32_t DllGetClassObject(const char* name, const orlin::PublicClass** classObject) {
+  if (name == nullptr || classObject == nullptr) return orlin::failures::InvalidCall;
+  *classObject = orlin::FindPublicClass(name);
+  return *classObject != nullptr ? 0 : orlin::failures::CannotCreateObject;
+}
+
+std::int32_t DllCanUnloadNow() { return orlin::AnyLiveObject() ? 1 : 0; }
+
+std::int32_t DllRegisterServer() {
+  for (const auto& publicClass : orlin::PublicClasses()) {
+    orlin::InstallFactory(orlin::FullName(publicClass), [&publicClass] { return orlin::CreateLateBound(publicClass); });
+  }
+  return 0;
+}
+
+std::int32_t DllUnregisterServer() {
+  for (const auto& publicClass : orlin::PublicClasses()) orlin::RemoveFactory(orlin::FullName(publicClass));
+  return 0;
+}

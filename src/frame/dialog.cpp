@@ -1,0 +1,77 @@
+#include "frame/dialog.h"
+
+#include <utility>
+
+#include "frame/failure.h"
+#include "frame/modGeneral.h"
+#include "frame/services.h"
+
+namespace orlin {
+
+Dialog::Dialog(std::string_view name, const CaptionSource& title, const orlin::Life& life, SizeInTwips size)
+    : shown::Dialog(std::string(name), CurrentHost()), titleNumber_(title.Number), life_(life) {
+  StartCaption(title.Text);
+  SetSize(size.Width, size.Height);
+  // A failure in it was reported there; the dialog opens all the same.
+  if (life.InitialisesServices) static_cast<void>(InitApplicationVariables());
+}
+
+void Dialog::Touched() {
+  if (loaded_) return;
+  loaded_ = true;
+  if (OnLoad) return SkipFailure([this] { OnLoad(); });
+  SkipFailure([this] { LoadCaptions(); }, [this] { Centre(); });
+}
+
+void Dialog::LoadCaptions() {
+  if (titleNumber_ != 0) SkipFailure([this] { SetCaption(GetLocalText(titleNumber_)); });
+  for (auto* control : Controls()) {
+    if (control->captionNumber_ == 0) continue;
+    SkipFailure([control] { control->SetCaption(GetLocalText(control->captionNumber_)); });
+  }
+}
+
+void Dialog::Centre() {
+  const auto screen = Host().Screen();
+  MoveTo((screen.Width - Width()) / 2, (screen.Height - Height()) / 2);
+}
+
+const orlin::SecurityLevels& Dialog::SecurityLevels() const {
+  if (levels_ == nullptr) throw Failure(failures::NoObject);
+  return *levels_;
+}
+
+void Dialog::ShowModal() {
+  Touched();
+  BeginShow();
+  Host().ShowModal(*this);
+  EndShow();
+}
+
+void Dialog::HideWith(orlin::ExitCode code) {
+  exitCode_ = code;
+  Hide();
+}
+
+void Dialog::Unload() noexcept { loaded_ = false; }
+
+int Dialog::ShowMessage(std::string text, int flags) {
+  return Host().ShowMessage({std::move(text), flags, std::nullopt});
+}
+
+int Dialog::ShowMessage(std::string text, int flags, std::string title) {
+  return Host().ShowMessage({std::move(text), flags, std::move(title)});
+}
+
+OKButton::OKButton(Dialog& form, const CaptionSource& caption, std::string_view name) : Button(form, name, caption) {
+  form.MakeDefault(*this);
+  Click = [&form] { form.HideWith(ExitCode::OK); };
+}
+
+CancelButton::CancelButton(Dialog& form, const CaptionSource& caption, std::string_view name)
+    : Button(form, name, caption) {
+  form.MakeCancel(*this);
+  Click = [&form] { form.HideWith(ExitCode::Cancel); };
+}
+
+}  // namespace orlin

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+#include "frame/dialog.h"
+#include "frame/failure.h"
+
+namespace orlin {
+
+/// Results of `Display`. Any other value is the number of a failure, or an exception that the dialog states.
+inline constexpr std::int32_t kConfirmed = 0;
+inline constexpr std::int32_t kNotConfirmed = 1;
+
+/// What the `Display` of one dialog adds to the course that all share.
+struct DisplaySteps {
+  /// Up to the modal show: keeps members, decodes the raw values, fills the lists, applies rights, sets the title.
+  std::function<void()> Prepare;
+  /// After OK: encodes the controls into the arguments.
+  std::function<void()> Encode;
+  /// After any other end of the show: gives the result. Without it the result is 1 and nothing else happens.
+  std::function<std::int32_t()> NotConfirmed;
+  /// In dialogs with outcomes of their own, in place of the two: after any end of the show, stores what is due and
+  /// gives the result.
+  std::function<std::int32_t()> Conclude;
+  /// A failure ended the course: reports it.
+  std::function<void(const Failure&)> Report;
+  /// The result of a failure, where that is not its number.
+  std::optional<std::int32_t> FailureResult;
+};
+
+/// The course of one `Display`: prepare, show, encode, clean up. The life of the dialog decides whether a failure ends
+/// it with the failure's number as the result, or is skipped so that it goes on with the next step; and what the
+/// clean-up does.
+[[nodiscard]] std::int32_t RunDisplay(Dialog& form, const DisplaySteps& steps);
+
+/// One call of a public class: creates the dialog, runs its `Display` and drops it. A failure becomes the result.
+template <class Form, class Call>
+[[nodiscard]] std::int32_t CallDialog(Call call) {
+  try {
+    Form dialog;
+    return call(dialog);
+  } catch (const Failure& failure) {
+    return failure.Number();
+  }
+}
+
+/// The same in the public classes that have no failure handler: a failure reaches the host.
+template <class Form, class Call>
+[[nodiscard]] std::int32_t CallDialogUnguarded(Call call) {
+  Form dialog;
+  return call(dialog);
+}
+
+}  // namespace orlin

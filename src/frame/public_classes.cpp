@@ -1,0 +1,89 @@
+#include "OrlinCustomDialogs/public_classes.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "OrlinCustomDialogs/failure.h"
+
+#include "frame/conversions.h"
+#include "frame/live_objects.h"
+
+namespace orlin {
+
+std::string_view KindName(ParameterKind kind) noexcept {
+  switch (kind) {
+    case ParameterKind::Any:
+      return "Any";
+    case ParameterKind::Integer:
+      return "Integer";
+    case ParameterKind::Long:
+      return "Long";
+    case ParameterKind::Boolean:
+      return "Boolean";
+    case ParameterKind::String:
+      return "String";
+  }
+  return "";
+}
+
+Value Converted(const Value& value, ParameterKind kind) {
+  switch (kind) {
+    case ParameterKind::Any:
+      break;
+    case ParameterKind::Integer:
+      return ToInteger(value);
+    case ParameterKind::Long:
+      return ToLong(value);
+    case ParameterKind::Boolean:
+      return ToBoolean(value);
+    case ParameterKind::String:
+      return ToText(value);
+  }
+  return value;
+}
+
+PublicClass::PublicClass(std::string name, std::vector<Parameter> parameters, Call display)
+    : name_(std::move(name)), parameters_(std::move(parameters)), display_(std::move(display)) {}
+
+std::int32_t PublicClass::Display(std::vector<Value>& arguments) const {
+  if (arguments.size() != parameters_.size()) {
+    throw Failure(failures::InvalidCall, name_ + " takes " + std::to_string(parameters_.size()) + " arguments");
+  }
+  std::vector<Value> converted(arguments.size());
+  std::transform(arguments.begin(), arguments.end(), parameters_.begin(), converted.begin(),
+                 [](const Value& value, const Parameter& parameter) { return Converted(value, parameter.Kind); });
+  arguments = std::move(converted);
+  return display_(arguments);
+}
+
+namespace {
+
+std::int32_t liveObjects = 0;
+
+class ObjectOfPublicClass final : public LateBoundObject {
+ public:
+  explicit ObjectOfPublicClass(const PublicClass& publicClass) : class_(publicClass) { ++liveObjects; }
+  ObjectOfPublicClass(const ObjectOfPublicClass&) = delete;
+  ObjectOfPublicClass& operator=(const ObjectOfPublicClass&) = delete;
+  ~ObjectOfPublicClass() override { --liveObjects; }
+
+  Value Invoke(std::string_view operation, std::vector<Value>& arguments) override {
+    if (!SameName(operation, "Display")) {
+      throw Failure(failures::InvalidCall, class_.Name() + " has no operation " + std::string(operation));
+    }
+    return class_.Display(arguments);
+  }
+
+ private:
+  PublicClass class_;
+};
+
+}  // namespace
+
+std::shared_ptr<LateBoundObject> CreateLateBound(const PublicClass& publicClass) {
+  return std::make_shared<ObjectOfPublicClass>(publicClass);
+}
+
+bool AnyLiveObject() noexcept { return liveObjects > 0; }
+
+}  // namespace orlin

@@ -1,0 +1,135 @@
+#include <algorithm>
+#include <utility>
+
+#include "OrlinCustomDialogs/controls.h"
+#include "OrlinCustomDialogs/dialog_host.h"
+
+// The operator's side of a dialog: focus, keys, close box.
+
+namespace orlin::shown {
+namespace {
+
+bool TakesTab(const Control* control) { return control->TakesFocus() && control->TabStop() && control->WithinReach(); }
+
+}  // namespace
+
+Control* Dialog::Find(std::string_view name) const noexcept {
+  const auto found =
+      std::find_if(controls_.begin(), controls_.end(), [&](const auto* control) { return control->Name() == name; });
+  return found == controls_.end() ? nullptr : *found;
+}
+
+void Dialog::SetCaption(std::string caption) {
+  Touched();
+  caption_ = std::move(caption);
+  ++revision_;
+}
+
+void Dialog::SetWidth(int width) {
+  Touched();
+  SetSize(width, height_);
+}
+
+void Dialog::SetHeight(int height) {
+  Touched();
+  SetSize(width_, height);
+}
+
+void Dialog::MoveTo(int left, int top) {
+  left_ = left;
+  top_ = top;
+  ++revision_;
+}
+
+void Dialog::SetSize(int width, int height) {
+  width_ = width;
+  height_ = height;
+  ++revision_;
+}
+
+void Dialog::Guarded(std::string_view owner, std::string_view event, const std::function<void()>& handler) {
+  try {
+    handler();
+  } catch (const Failure& failure) {
+    // Handlers of an array of controls are one routine, named without the index.
+    std::string name(owner.substr(0, owner.find('(')));
+    name.append("_").append(event);
+    host_->HandlerFailed(*this, name, failure);
+  }
+}
+
+void Dialog::Activate() {
+  if (OnActivate) Guarded("Form", "Activate", [this] { OnActivate(); });
+  if (!shown_ || focus_ != nullptr) return;
+  const auto first = std::find_if(controls_.begin(), controls_.end(), TakesTab);
+  if (first != controls_.end()) MoveFocus(*first, By::Operator);
+}
+
+void Dialog::MoveFocus(Control* to, By by) {
+  if (focus_ == to) return;
+  if (focus_ != nullptr) focus_->Leave(by);
+  if (focus_ == to) return;
+  focus_ = to;
+  ++revision_;
+  auto* const from = std::exchange(entered_, nullptr);
+  if (from != nullptr) from->Raise(by, from->LostFocus, "LostFocus");
+  // The handler may have sent the focus elsewhere, which then ends this move.
+  if (focus_ != to || entered_ == to) return;
+  entered_ = to;
+  to->Raise(by, to->GotFocus, "GotFocus");
+}
+
+void Dialog::MoveFocusByTab(bool backwards) {
+  const auto count = controls_.size();
+  const auto at = std::find(controls_.begin(), controls_.end(), focus_);
+  // Without a focus the search begins before the first control, or behind the last one.
+  auto place = at != controls_.end() ? static_cast<std::size_t>(at - controls_.begin()) : backwards ? 0 : count - 1;
+  for (std::size_t steps = 0; steps < count; ++steps) {
+    place = (place + (backwards ? count - 1 : 1)) % count;
+    if (TakesTab(controls_[place])) return MoveFocus(controls_[place], By::Operator);
+  }
+}
+
+void Dialog::PressButton(Button* button) {
+  if (button != nullptr && button->WithinReach()) button->Raise(By::Operator, button->Click, "Click");
+}
+
+Refusal Dialog::PressAccessKey(char32_t letter) {
+  for (auto* control : controls_) {
+    if (!control->WithinReach() || AccessKey(control->Caption()) != letter) continue;
+    if (const auto* label = dynamic_cast<const Label*>(control)) {
+      auto* named = label->Names();
+      if (named != nullptr && named->WithinReach()) return named->Focus();
+    } else if (const auto* frame = dynamic_cast<const Frame*>(control)) {
+      const auto inside = std::find_if(controls_.begin(), controls_.end(), [&](const auto* candidate) {
+        return candidate->Parent() == frame && candidate->TakesFocus() && candidate->WithinReach();
+      });
+      if (inside != controls_.end()) return (*inside)->Focus();
+    } else {
+      return control->Press();
+    }
+  }
+  return "no control within reach has that access key";
+}
+
+Refusal Dialog::PressKey(const Key& key) {
+  if (!shown_) return "the dialog is not shown";
+  if (key.Alt) return PressAccessKey(key.Character);
+
+  auto* const target = focus_ != nullptr && focus_->WithinReach() ? focus_ : nullptr;
+  if (key.Code == keys::Enter && (target == nullptr || !target->KeepsEnter()))
+    return PressButton(defaultButton_), Refusal();
+  if (key.Code == keys::Escape && (target == nullptr || !target->KeepsEscape()))
+    return PressButton(cancelButton_), Refusal();
+  if (key.Code == keys::Tab) return MoveFocusByTab(key.Shift), Refusal();
+  if (target == nullptr) return "no control within reach has the focus";
+
+  Key passed = key;
+  if (KeyDown) Guarded("Form", "KeyDown", [&] { KeyDown(passed.Code); });
+  if (passed.Code != 0 && shown_ && focus_ == target) target->TakeKey(passed);
+  return {};
+}
+
+void Dialog::Close() { shown_ = false; }
+
+}  // namespace orlin::shown

@@ -1,0 +1,63 @@
+#include "schedules/frmCustDisplayStringList.h"
+
+#include "frame/conversions.h"
+#include "frame/display_protocol.h"
+#include "frame/modGeneral.h"
+
+namespace orlin {
+namespace {
+
+// Half hours of a day. Midnight at its begin is not among them: its place says that there is no time.
+constexpr std::int16_t kDisabled = 0;
+constexpr std::int16_t kMidnight = 48;
+constexpr std::int32_t kIndexOutOfRange = 2;
+
+std::string Line(std::int16_t position) {
+  if (position == kDisabled) return "DISABLED";
+  if (position == kMidnight) return "MIDNIGHT";
+  return TwoDigits(position / 2) + (position % 2 == 0 ? ":00" : ":30");
+}
+
+constexpr FaultKind Fault(std::string_view procedure) {
+  return {.ModuleName = "frmCustDisplayStringList",
+          .ProcedureName = procedure,
+          .OnlyWithFaultObject = false,
+          .Shows = true,
+          .Clears = true};
+}
+
+}  // namespace
+
+frmCustDisplayStringList::frmCustDisplayStringList() {
+  List1.Click = [this] { List1_Click(); };
+}
+
+std::int32_t frmCustDisplayStringList::Display(std::int16_t Index, Value& res) {
+  if (Index < kDisabled || Index > kMidnight) return kIndexOutOfRange;
+  DisplaySteps steps;
+  steps.Prepare = [&] {
+    for (auto position = kDisabled; position <= kMidnight; ++position) List1.AddItem(Line(position));
+    txtValue.SetText(List1.List(Index));
+    List1.SelectRow(Index);
+  };
+  steps.Encode = [&] {
+    if (!ChosenIndex.IsEmpty()) res = ChosenIndex;
+  };
+  steps.NotConfirmed = [&] {
+    res = std::to_string(Index);
+    return kNotConfirmed;
+  };
+  steps.Report = [](const Failure& failure) { ReportFault(Fault("Display"), failure, ""); };
+  return RunDisplay(Form, steps);
+}
+
+void frmCustDisplayStringList::List1_Click() {
+  ReportFailure(Fault("List1_Click"), [&] {
+    const auto row = List1.ListIndex();
+    if (row < 0) return;
+    ChosenIndex = std::to_string(row);
+    txtValue.SetText(List1.List(row));
+  });
+}
+
+}  // namespace orlin

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "frame/modPanelTypes.h"
+
+// The functions that a sked of the Willow panels can do, each with a code of three digits.
+
+namespace orlin::willow {
+
+/// What the panel can do, in code order: code, two blanks, text.
+[[nodiscard]] std::vector<std::string> FunctionEntries(ePanelType panel);
+
+/// Whether the panel has a function with that code.
+[[nodiscard]] bool HasFunction(double code, ePanelType panel);
+
+/// The row of a code in `FunctionEntries`, counted from 0, or -1 where the list has no such row. A code that the panel
+/// lacks may lead to the row of another one.
+[[nodiscard]] int FunctionRow(std::string_view code, ePanelType panel);
+
+}  // namespace orlin::willow

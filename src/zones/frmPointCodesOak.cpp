@@ -1,0 +1,149 @@
+#include "zones/frmPointCodesOak.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "frame/conversions.h"
+#include "frame/display_protocol.h"
+#include "frame/modGeneral.h"
+#include "zones/hex_digit.h"
+
+namespace orlin {
+namespace {
+
+struct DigitList {
+  std::string_view Digits;      // of the items, in order
+  std::int16_t FirstText = 0;   // of the first item
+  std::int16_t SecondText = 0;  // of the second; the texts of the others follow it
+};
+using DigitLists = std::array<DigitList, 5>;
+
+constexpr std::string_view kLetters = "ABCDEFGHIJKLMNOP";
+constexpr DigitList kDigit2{"0123456789", 1393, 1406};
+
+constexpr DigitLists kGrandLists = {{
+    {"0123456789ABC", 1393, 1394},
+    kDigit2,
+    {"0123456789ABCDEF", 1393, 1415},
+    {"012345678", 1430, 1431},
+    {kLetters, 1439, 1440},
+}};
+constexpr DigitLists kMidLists = {{
+    {"0123456789A", 1393, 1394},
+    kDigit2,
+    {"01234567", 1393, 1415},
+}};
+constexpr DigitLists kBaseLists = {{kGrandLists[0], kGrandLists[1], kGrandLists[2]}};
+
+const DigitLists& ListsOf(ePanelType panelType) {
+  if (panelType == ePanelType::OakGrand) return kGrandLists;
+  return panelType == ePanelType::OakMid ? kMidLists : kBaseLists;
+}
+
+/// The position that a digit of a code selects.
+int PositionOf(int digit, const std::string& code) {
+  if (digit == 5) {
+    const auto character = Mid(code, digit, 1);
+    const auto letter = std::find_if(kLetters.begin(), kLetters.end(),
+                                     [&](char known) { return SameName(character, std::string_view(&known, 1)); });
+    if (letter != kLetters.end()) return static_cast<int>(letter - kLetters.begin());
+  }
+  return HexDigitAt(code, digit);
+}
+
+// What must not stand behind a first digit; other first digits go with any.
+struct Fault {
+  int D1;
+  bool (*When)(int D3, int D4);
+  std::int16_t Message;
+};
+constexpr std::array<Fault, 4> kFaults = {{
+    {0, [](int, int D4) { return D4 != 0 && D4 != 7 && D4 != 8; }, 1456},
+    {1, [](int D3, int) { return D3 != 0 && D3 != 9 && D3 != 13; }, 1457},
+    {2, [](int D3, int) { return D3 == 8 || D3 == 12; }, 1458},
+    {10, [](int D3, int) { return D3 >= 4; }, 1459},
+}};
+
+}  // namespace
+
+frmPointCodesOak::frmPointCodesOak() {
+  cmbDigit.OnClick([this](int Index) { cmbDigit_Click(Index); });
+  cmdOK.Click = [this] { cmdOK_Click(); };
+}
+
+std::int32_t frmPointCodesOak::Display(const Value& PointNum, Value& PointCode, ePanelType panelType) {
+  DisplaySteps steps;
+  steps.Prepare = [&] {
+    SkipFailure([&] { lblPointText.SetCaption(GetLocalText(1392, "POINT", ToText(PointNum))); });
+    PanelType = panelType;
+    FillDigitLists();
+    DigitCount = PanelType == ePanelType::OakGrand ? 5 : 3;
+    for (int digit = 1; digit <= DigitCount; ++digit) {
+      SkipFailure([&] { cmbDigit[digit].SelectRow(PositionOf(digit, ToText(PointCode))); });
+    }
+  };
+  steps.Encode = [&] { PointCode = lblPointCode.Caption(); };
+  return RunDisplay(Form, steps);
+}
+
+void frmPointCodesOak::FillDigitLists() {
+  const auto& lists = ListsOf(PanelType);
+  for (std::size_t i = 0; i < lists.size(); ++i) {
+    const auto& [digits, firstText, secondText] = lists[i];
+    auto& list = cmbDigit[i + 1];
+    if (digits.empty()) {
+      list.SetVisible(false);
+      lblDigit[i + 1].SetVisible(false);
+    }
+    auto text = firstText;
+    for (const char digit : digits) {
+      SkipFailure([&] { list.AddItem(std::string(1, digit) + ". " + GetLocalText(text)); });
+      text = text == firstText ? secondText : static_cast<std::int16_t>(text + 1);
+    }
+  }
+}
+
+void frmPointCodesOak::cmbDigit_Click(int Index) {
+  if (Index == 1) {
+    const bool enabled = cmbDigit[1].ListIndex() != 0;
+    for (const int digit : {2, 3}) {
+      cmbDigit[digit].SetEnabled(enabled);
+      if (!enabled) SkipFailure([&] { cmbDigit[digit].SetListIndex(0); });
+    }
+  }
+  lblPointCode.SetCaption("");
+  for (int digit = 1; digit <= DigitCount; ++digit) {
+    lblPointCode.SetCaption(lblPointCode.Caption() + Left(cmbDigit[digit].Text(), 1));
+  }
+}
+
+void frmPointCodesOak::cmdOK_Click() {
+  const bool valid = PanelType == ePanelType::OakMid ? ValidatePointCodeMid() : ValidatePointCode();
+  if (valid) Form.HideWith(ExitCode::OK);
+}
+
+bool frmPointCodesOak::ValidatePointCode() {
+  const auto code = lblPointCode.Caption();
+  const auto fault =
+      std::find_if(kFaults.begin(), kFaults.end(), [&](const auto& row) { return row.D1 == HexDigitAt(code, 1); });
+  if (fault == kFaults.end() || !fault->When(HexDigitAt(code, 3), HexDigitAt(code, 4))) return true;
+  TellFault(fault->Message);
+  return false;
+}
+
+bool frmPointCodesOak::ValidatePointCodeMid() {
+  const auto code = lblPointCode.Caption();
+  const int D1 = HexDigitAt(code, 1);
+  if ((D1 != 1 && D1 != 2) || HexDigitAt(code, 3) == 0) return true;
+  TellFault(1455);
+  return false;
+}
+
+void frmPointCodesOak::TellFault(std::int16_t message) {
+  SkipFailure([&] { Form.ShowMessage(GetLocalText(message), Message::Warning, GetLocalText(262)); },
+              [&] { cmbDigit[3].SetFocus(); });
+}
+
+}  // namespace orlin

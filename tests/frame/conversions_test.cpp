@@ -1,0 +1,129 @@
+#include "frame/conversions.h"
+
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "support/frame_fixture.h"
+
+namespace orlin::testing {
+namespace {
+
+TEST(NumericValue, TakesTheLongestLeadingNumber) {
+  const struct {
+    const char* Text;
+    double Number;
+  } cases[] = {{"", 0},
+               {"x", 0},
+               {"12", 12},
+               {" 12 ", 12},
+               {"12abc", 12},
+               {"-7", -7},
+               {"+7", 7},
+               {"1.5x", 1.5},
+               {".5", 0.5},
+               {"5.", 5},
+               {"1e3", 1000},
+               {"1e", 1},
+               {"1e+x", 1},
+               {"--1", 0},
+               {"&H10", 16},
+               {"&hff", 255},
+               {"&HF8zz", 248},
+               {"&H", 0},
+               {"&HFFFFFFFFFFFF", 281474976710655.0},
+               {"1e-400", 0},
+               {"2E14", 2e14}};
+  for (const auto& one : cases) EXPECT_EQ(NumericValue(one.Text), one.Number) << one.Text;
+  EXPECT_TRUE(std::isinf(NumericValue("1e400")));
+}
+
+TEST(Conversions, TakeAValueAsAWholeOrFail) {
+  constexpr int kMismatch = failures::TypeMismatch;
+  constexpr int kOverflow = failures::Overflow;
+  const struct {
+    Value From;
+    int Failure;
+    std::int16_t Integer;
+  } cases[] = {{Value(), 0, 0},
+               {std::int16_t{-5}, 0, -5},
+               {32767, 0, 32767},
+               {32768, kOverflow, 0},
+               {-32769, kOverflow, 0},
+               {0.5, 0, 0},
+               {1.5, 0, 2},
+               {2.5, 0, 2},
+               {-1.5, 0, -2},
+               {32767.4, 0, 32767},
+               {32767.5, kOverflow, 0},
+               {std::nan(""), kOverflow, 0},
+               {true, 0, -1},
+               {" 12 ", 0, 12},
+               {"1e2", 0, 100},
+               {"-.5e1", 0, -5},
+               {"", kMismatch, 0},
+               {"  ", kMismatch, 0},
+               {"12x", kMismatch, 0},
+               {"&H10", kMismatch, 0},
+               {"1e999", kOverflow, 0},
+               {Array(), kMismatch, 0},
+               {ObjectPtr(), kMismatch, 0}};
+  for (const auto& one : cases) {
+    std::int16_t number = 0;
+    EXPECT_EQ(FailureOf([&] { number = ToInteger(one.From); }), one.Failure) << KindName(one.From.kind());
+    EXPECT_EQ(number, one.Integer);
+  }
+  EXPECT_EQ(ToLong("2147483647"), 2147483647);
+  EXPECT_EQ(FailureOf([] { static_cast<void>(ToLong(2147483648.0)); }), kOverflow);
+  EXPECT_EQ(ToByte(255.4), 255);
+  EXPECT_EQ(FailureOf([] { static_cast<void>(ToByte(std::int16_t{-1})); }), kOverflow);
+  EXPECT_TRUE(ToBoolean(" True "));
+  EXPECT_FALSE(ToBoolean(std::int16_t{0}));
+}
+
+TEST(Conversions, TellNumbersFromOtherTexts) {
+  for (const char* number : {"0", " -1.5 ", "2E14", ".5", "5."})
+    EXPECT_TRUE(IsNumeric(std::string_view(number))) << number;
+  for (const char* other : {"", " ", "&H10", "1 2", "1e", "-", ".", "1e999"})
+    EXPECT_FALSE(IsNumeric(std::string_view(other))) << other;
+  EXPECT_TRUE(IsNumeric(Value()));
+  EXPECT_FALSE(IsNumeric(Value("x")));
+  EXPECT_FALSE(IsNumeric(Value(Array())));
+}
+
+TEST(Texts, AreMadeFromNumbersAndParts) {
+  EXPECT_EQ(ToText(Value()), "");
+  EXPECT_EQ(ToText(std::int16_t{-5}), "-5");
+  EXPECT_EQ(ToText(248.0), "248");
+  EXPECT_EQ(ToText(0.1), "0.1");
+  EXPECT_EQ(ToText(1e300), "1e+300");
+  EXPECT_EQ(FailureOf([] { static_cast<void>(ToText(Array())); }), failures::TypeMismatch);
+  EXPECT_EQ(HexText(0), "0");
+  EXPECT_EQ(HexText(0xF8), "F8");
+  EXPECT_EQ(TwoDigits(7), "07");
+  EXPECT_EQ(TwoDigits(123), "123");
+  EXPECT_EQ(Mid("abc", 2, 9), "bc");
+  EXPECT_EQ(Mid("abc", 4, 1), "");
+  EXPECT_EQ(Mid("a\xC3\xA4"
+                "c",
+                2, 1),
+            "\xC3\xA4");
+  EXPECT_EQ(Left("abc", 0), "");
+}
+
+TEST(Values, KeepTheirKindAndTheirBounds) {
+  EXPECT_NE(Value(std::int16_t{5}), Value(5));
+  EXPECT_NE(Value("5"), Value(5));
+  Array array({"a", std::int16_t{1}}, 3);
+  EXPECT_EQ(array.UpperBound(), 4);
+  EXPECT_EQ(array.At(4), Value(std::int16_t{1}));
+  EXPECT_EQ(FailureOf([&] { static_cast<void>(array.At(2)); }), failures::SubscriptOutOfRange);
+  EXPECT_EQ(FailureOf([&] { static_cast<void>(array.At(5)); }), failures::SubscriptOutOfRange);
+  EXPECT_EQ(Array({}, 1).UpperBound(), 0);
+  Value copy(array);
+  copy.Get<Array>()->At(3) = "b";
+  EXPECT_EQ(array.At(3), Value("a"));
+}
+
+}  // namespace
+}  // namespace orlin::testing

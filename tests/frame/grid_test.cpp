@@ -1,0 +1,132 @@
+#include "frame/controls.h"
+#include "support/frame_fixture.h"
+
+namespace orlin::testing {
+namespace {
+
+/// A grid of two columns, the first row and column fixed, as a dialog with editable cells sets it up.
+class GridTest : public FrameTest {
+ protected:
+  GridTest() {
+    for (int row = 1; row < 4; ++row) fa.SetCellText(row, 1, std::to_string(row) + "a");
+    fa.DblClick = [this] { fa.EditCell(); };
+    fa.StartEdit = [this](int row, int col, bool& cancel) {
+      Note("start", row, col);
+      cancel = row == 3;
+    };
+    fa.KeyPressEdit = [this](int row, int col, int& key) {
+      Note("key " + std::to_string(key), row, col);
+      if (key == 'x') key = 0;
+    };
+    fa.AfterEdit = [this](int row, int col) {
+      Note("after <" + fa.EditorText() + "> <" + fa.CellText(row, col) + ">", row, col);
+    };
+    txtOther.GotFocus = [this] { Host->Happened.emplace_back("txtOther_GotFocus"); };
+  }
+
+  void Note(const std::string& what, int row, int col) {
+    Host->Happened.push_back(what + " " + std::to_string(row) + "," + std::to_string(col));
+    EXPECT_EQ(fa.Row(), row);
+    EXPECT_EQ(fa.Col(), col);
+  }
+  Log During(const std::function<void()>& action) {
+    Log log;
+    Host->Operate = [&](shown::Dialog&) {
+      Host->Happened.clear();
+      action();
+      log = Host->Happened;
+    };
+    Form.ShowModal();
+    return log;
+  }
+  void Press(int code) { Form.PressKey(Key::Named(code)); }
+  void Type(char32_t character) { Form.PressKey(Key::Typing(character)); }
+
+  Dialog Form{"frmTest", "", {}};
+  Grid fa{Form, "fa", {.Rows = 4, .Cols = 2, .FixedRows = 1, .FixedCols = 1}};
+  TextBox txtOther{Form, "txtOther"};
+  OKButton cmdOK{Form, "OK"};
+};
+
+TEST_F(GridTest, EnterPutsTheTextIntoTheCell) {
+  EXPECT_EQ(During([&] { fa.DoubleClick(), Type(U'b'), Type(U'x'), Press(keys::Enter); }),
+            (Log{"start 1,1", "key 98 1,1", "key 120 1,1", "key 13 1,1", "after <1ab> <1ab> 1,1"}));
+  EXPECT_FALSE(fa.Editing());
+  EXPECT_EQ(fa.EditorText(), "");
+}
+
+TEST_F(GridTest, EscapeRestoresTheOldText) {
+  EXPECT_EQ(During([&] { Press(keys::F2), Press(keys::Backspace), Type(U'9'), Press(keys::Escape); }).back(),
+            "after <1a> <1a> 1,1");
+  EXPECT_EQ(fa.CellText(1, 1), "1a");
+}
+
+TEST_F(GridTest, LeavingTheCellOrTheGridKeepsTheText) {
+  EXPECT_EQ(During([&] { fa.DoubleClick(), Type(U'b'), fa.MakeCurrent(2, 1); }).back(), "after <1ab> <1ab> 1,1");
+  EXPECT_EQ(fa.Row(), 2);
+  const auto leaving = During([&] { fa.DoubleClick(), Type(U'c'), Press(keys::Tab); });
+  EXPECT_EQ(leaving.back(), "txtOther_GotFocus");
+  EXPECT_EQ(fa.CellText(2, 1), "2ac");
+  EXPECT_EQ(During([&] { fa.DoubleClick(), Type(U'd'), Press(keys::Up); }).back(), "after <2acd> <2acd> 2,1");
+  EXPECT_EQ(fa.Row(), 1);
+}
+
+TEST_F(GridTest, StartCanBeCancelled) {
+  EXPECT_EQ(During([&] { fa.MakeCurrent(3, 1), fa.DoubleClick(), Type(U'b'); }), Log{"start 3,1"});
+  EXPECT_FALSE(fa.Editing());
+  EXPECT_EQ(fa.CellText(3, 1), "3a");
+}
+
+TEST_F(GridTest, EditorTakesPasteAndCaret) {
+  During([&] {
+    EXPECT_TRUE(fa.PasteIntoEditor("q"));
+    fa.DoubleClick(), fa.SetEditorCaret(0, 2), fa.PasteIntoEditor("1x2"), Press(keys::Home), Press(keys::Delete);
+    EXPECT_EQ(fa.EditorText(), "2");
+    EXPECT_EQ(fa.CellText(1, 1), "1a");
+  });
+}
+
+TEST_F(GridTest, FixedCellsAreNeverCurrent) {
+  During([&] {
+    EXPECT_EQ(fa.Row(), 1);
+    EXPECT_EQ(fa.Col(), 1);
+    for (const auto& [row, col] : {std::pair{0, 1}, {1, 0}, {4, 1}, {1, 2}}) EXPECT_TRUE(fa.MakeCurrent(row, col));
+    Press(keys::Up), Press(keys::Left);
+    EXPECT_EQ(fa.Row(), 1);
+    EXPECT_EQ(fa.Col(), 1);
+    Press(keys::End);
+    EXPECT_EQ(fa.Row(), 3);
+  });
+}
+
+TEST_F(GridTest, RowsComeAndGo) {
+  fa.AddItem("t\tnew\tbeyond", 1);
+  EXPECT_EQ(fa.Rows(), 5);
+  EXPECT_EQ(fa.CellText(1, 1), "new");
+  EXPECT_EQ(fa.CellText(2, 1), "1a");
+  fa.RemoveItem(1);
+  EXPECT_EQ(fa.CellText(1, 1), "1a");
+  fa.SelectCell(3, 1);
+  fa.SetRows(2);
+  EXPECT_EQ(fa.Row(), 1);
+  fa.SetRows(1);
+  EXPECT_EQ(fa.Row(), -1);
+  EXPECT_EQ(fa.CellText(7, 7), "");
+  fa.SetCellText(7, 7, "ignored");
+  EXPECT_EQ(fa.CellText(7, 7), "");
+  EXPECT_EQ(FailureOf([&] { fa.RemoveItem(1); }), failures::InvalidPropertyValue);
+  EXPECT_EQ(FailureOf([&] { fa.AddItem("", 9); }), failures::InvalidPropertyValue);
+}
+
+TEST_F(GridTest, CellsHaveNumbersColoursAndBold) {
+  EXPECT_EQ(fa.CellNumber(2, 1), 2);
+  EXPECT_EQ(fa.CellAt(1, 1).Color, 0);
+  EXPECT_FALSE(fa.CellAt(1, 1).Bold);
+  fa.SetCellColor(1, 1, 255);
+  fa.SetCellBold(1, 1, true);
+  EXPECT_EQ(fa.CellAt(1, 1).Color, 255);
+  EXPECT_TRUE(fa.CellAt(1, 1).Bold);
+}
+
+}  // namespace
+}  // namespace orlin::testing

@@ -1,0 +1,163 @@
+#include "OrlinCustomDialogs/lists.h"
+
+#include "support/frame_fixture.h"
+
+namespace orlin::testing {
+namespace {
+
+std::shared_ptr<clsListItems> Choices(const std::vector<std::string>& keys) {
+  auto items = std::make_shared<clsListItems>();
+  for (const auto& key : keys) items->Add(key, "text of " + key);
+  return items;
+}
+
+template <class List>
+std::string KeysOf(const List& list) {
+  std::string keys;
+  for (const auto& element : list) keys += element->Key + " ";
+  return keys;
+}
+
+/// The form of an element in which no field has its default.
+Value FullForm(const Value& value) {
+  const auto number = [](int i) { return Value(static_cast<std::int16_t>(i)); };
+  return Array({"k", "shown", value, 0x123456, "told", true, true, number(1), number(-2), number(3)}, 1);
+}
+
+std::shared_ptr<clsListItem> FullItem() {
+  auto item = std::make_shared<clsListItem>();
+  item->DeSerialize(FullForm(5));
+  item->Key = "k";
+  return item;
+}
+
+TEST(ValueList, FindsByPositionAndByKeyWithoutRegardToCase) {
+  const auto items = Choices({"abc", "2", ""});
+  items->Add("b", "old")->Item = "new";
+  EXPECT_EQ(items->Item("B")->Item, "new");
+  ASSERT_NE(items->Item(std::int16_t{1}), nullptr);
+  EXPECT_EQ(items->Item(1), items->Item("ABC"));
+  EXPECT_EQ(items->Item(2), items->Item("2"));
+  for (const auto& missing :
+       {Value("1"), Value(""), Value(0), Value(5), Value(-1), Value(), Value(1e12), Value(Array())})
+    EXPECT_EQ(items->Item(missing), nullptr);
+}
+
+TEST(ValueList, RefusesAKeyThatIsThereButAnyNumberOfEmptyOnes) {
+  const auto items = Choices({"abc", "", ""});
+  EXPECT_EQ(FailureOf([&] { items->Add("ABC"); }), failures::KeyExists);
+  EXPECT_EQ(items->Count(), 3);
+  clsRanges ranges;
+  EXPECT_EQ(ranges.Add("abc")->Min, Value(std::int16_t{0}));
+  EXPECT_EQ(ranges.Add("ABC"), nullptr);
+  EXPECT_EQ(ranges.Count(), 1);
+}
+
+TEST(ValueList, ClosesTheGapOfARemovedElement) {
+  const auto items = Choices({"a", "b", "c", "d"});
+  items->Remove("B");
+  items->Remove(1);
+  for (const auto& missing : {Value("b"), Value(0), Value(3)}) items->Remove(missing);
+  items->Add("b");
+  EXPECT_EQ(KeysOf(*items), "c d b ");
+  EXPECT_EQ(items->Item(1), items->Item("c"));
+}
+
+TEST(ValueList, KnowsAnElementByTheKeyOfItsAdding) {
+  const auto items = Choices({"a"});
+  items->Item("a")->Copy(nullptr);
+  EXPECT_EQ(items->Item("a")->Item, "text of a");
+  items->Item("a")->Copy(FullItem());
+  EXPECT_EQ(items->Item("a")->Serialize(), FullForm(5));
+  EXPECT_EQ(items->Item("k"), nullptr);
+}
+
+TEST(ValueList, CopiesIntoNewElementsUntilAFailure) {
+  const auto source = Choices({"a", "", "b", "c"});
+  source->iDisplayValueSelection = 7;
+  source->Item(2)->Copy(FullItem());
+  const auto copy = Choices({"x"});
+  EXPECT_EQ(copy->Copy(source), Value());
+  EXPECT_EQ(copy->Serialize(), source->Serialize());
+  EXPECT_NE(copy->Item("a"), source->Item("a"));
+  EXPECT_NE(copy->Item("k"), nullptr);
+  source->Item("b")->Key = "A";
+  copy->Copy(source);
+  EXPECT_EQ(KeysOf(*copy), "a k ");
+  copy->Copy(nullptr);
+  EXPECT_EQ(copy->Count(), 0);
+
+  const auto ranges = std::make_shared<clsRanges>();
+  for (const char* key : {"a", "b", "c"}) ranges->Add(key, 1, 127)->Color = 5;
+  clsRanges copied;
+  copied.Add("x");
+  EXPECT_EQ(copied.Copy(ranges), Value());
+  EXPECT_EQ(copied.Serialize(), ranges->Serialize());
+  EXPECT_NE(copied.Item(1), ranges->Item(1));
+  ranges->Item("b")->Key = "A";
+  copied.Copy(ranges);
+  EXPECT_EQ(KeysOf(copied), "a ");
+}
+
+TEST(ValueList, KeepsEveryFieldInItsKind) {
+  for (const auto& value : {Value(), Value(std::int16_t{1}), Value(1), Value(2.5), Value(true), Value("text"),
+                            Value(Array({"nested", 1}, 3)), Value(std::make_shared<Object>())}) {
+    const auto items = Choices({});
+    items->iDisplayValueSelection = 4;
+    items->Add("k")->DeSerialize(FullForm(value));
+    const Value form = Array({std::int16_t{4}, FullForm(value)}, 1);
+    EXPECT_EQ(items->Serialize(), form);
+    const auto read = Choices({"first"});
+    EXPECT_EQ(read->DeSerialize(form), Value());
+    EXPECT_EQ(KeysOf(*read), "first k ");
+    EXPECT_EQ(read->iDisplayValueSelection, 4);
+    EXPECT_EQ(read->Item("K")->Serialize(), FullForm(value));
+  }
+  const std::int16_t none = 0;
+  EXPECT_EQ(clsListItem().Serialize(),
+            Value(Array({"", "", Value(), 0xFFFFFF, "", false, false, none, none, none}, 1)));
+  EXPECT_EQ(clsRange().Serialize(), Value(Array({"", Value(), Value(), 0xFFFFFF}, 1)));
+
+  const Value ranges = Array({Array({"1", 1, 2.5, 6}, 1), Array({"", "x", none, 7}, 1)}, 1);
+  clsRanges read;
+  EXPECT_EQ(read.DeSerialize(ranges), Value());
+  EXPECT_EQ(read.Serialize(), ranges);
+}
+
+TEST(ValueList, SkipsFieldsThatFail) {
+  const auto item = FullItem();
+  item->DeSerialize(Array({"other", Array(), 6, "no number", "new", "maybe", "True", "40000", "9"}, 1));
+  EXPECT_EQ(item->Serialize(),
+            Value(Array(
+                {"k", "shown", 6, 0x123456, "new", true, true, std::int16_t{1}, std::int16_t{9}, std::int16_t{3}}, 1)));
+  EXPECT_EQ(item->DeSerialize("no array"), 0);
+  EXPECT_EQ(item->Value, Value(6));
+
+  clsRanges ranges;
+  ranges.DeSerialize(Array({Array({"k", 4}, 1)}, 1));
+  EXPECT_EQ(ranges.Item("k")->Serialize(), Value(Array({"k", 4, std::int16_t{0}, 0xFFFFFF}, 1)));
+}
+
+TEST(ValueList, ReadsTheFormWithoutASelectionUntilAFailure) {
+  const auto items = Choices({});
+  items->iDisplayValueSelection = 4;
+  items->DeSerialize(Array({FullForm(1), Array({"z"}, 1), Array({"K"}, 1), Array({"y"}, 1)}, 1));
+  EXPECT_EQ(KeysOf(*items), "k z ");
+  items->DeSerialize(Array({Array({"x"}, 1), "no element", Array({"y"}, 1)}, 1));
+  EXPECT_EQ(KeysOf(*items), "k z x ");
+  EXPECT_EQ(items->iDisplayValueSelection, 4);
+}
+
+TEST(ValueList, StaysAsItIsWithoutAnArray) {
+  EXPECT_EQ(clsRanges().Serialize(), Value());
+  const auto items = Choices({"a"});
+  items->iDisplayValueSelection = 4;
+  for (const auto& stream : {Choices({})->Serialize(), clsRanges().Serialize(), Value("x"), Value(1), Value(Array())}) {
+    EXPECT_EQ(items->DeSerialize(stream), Value());
+    EXPECT_EQ(KeysOf(*items), "a ");
+    EXPECT_EQ(items->iDisplayValueSelection, 4);
+  }
+}
+
+}  // namespace
+}  // namespace orlin::testing

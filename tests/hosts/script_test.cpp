@@ -1,0 +1,121 @@
+#include "script/script.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace orlin::testing {
+namespace {
+
+using namespace actions;
+
+template <class Kind>
+Kind Only(const std::string& text) {
+  const auto script = ParseScript(text);
+  EXPECT_EQ(script.size(), 1U) << text;
+  return std::get<Kind>(script.at(0).Do);
+}
+
+std::string ErrorIn(const std::string& text) {
+  try {
+    static_cast<void>(ParseScript(text));
+  } catch (const ScriptError& error) {
+    return error.what();
+  }
+  return {};
+}
+
+TEST(Script, KnowsTheKeys) {
+  const std::pair<const char*, int> named[] = {
+      {"Up", 38},  {"Down", 40}, {"Left", 37}, {"Right", 39},    {"PageUp", 33}, {"PageDown", 34}, {"Home", 36},
+      {"End", 35}, {"Tab", 9},   {"F2", 113},  {"Backspace", 8}, {"Delete", 46}, {"Enter", 13},    {"Escape", 27},
+  };
+  for (const auto& [name, code] : named) {
+    const auto stroke = Only<KeyStroke>(std::string("key txtA ") + name);
+    EXPECT_EQ(stroke.Control, "txtA");
+    EXPECT_EQ(stroke.Pressed.Code, code) << name;
+    EXPECT_FALSE(stroke.Pressed.Alt);
+  }
+  const auto access = Only<KeyStroke>("key - Alt+\xC3\x9C");
+  EXPECT_EQ(access.Control, std::nullopt);
+  EXPECT_EQ(access.Pressed.Character, U'\u00FC');
+  EXPECT_TRUE(access.Pressed.Alt);
+}
+
+TEST(Script, ReadsTextsWithTheirEscapes) {
+  const std::pair<const char*, std::u32string> texts[] = {
+      {R"("")", U""},
+      {R"("a # b")", U"a # b"},
+      {R"("\"\\\t\n\r")", U"\"\\\t\n\r"},
+      {R"("\\n")", U"\\n"},
+      {"\"\xE2\x82\xAC\xF0\x9F\x94\x92\"", U"\u20AC\U0001F512"},
+  };
+  for (const auto& [text, characters] : texts) {
+    EXPECT_EQ(Only<Type>(std::string("type txtA ") + text).Text, characters) << text;
+  }
+}
+
+TEST(Script, KeepsTheNumberAndTheSourceOfALine) {
+  const auto script =
+      ParseScript("\xEF\xBB\xBF# a comment\r\n\r\n \t click\tcmdA # press it\r\ntype txtA \"#\"#\n  close");
+  ASSERT_EQ(script.size(), 3U);
+  EXPECT_EQ(script[0].Line, 3);
+  EXPECT_EQ(script[0].Source, "click\tcmdA");
+  EXPECT_EQ(script[1].Source, "type txtA \"#\"");
+  EXPECT_EQ(script[2].Line, 5);
+  EXPECT_EQ(script[2].Source, "close");
+  EXPECT_TRUE(ParseScript("").empty());
+}
+
+TEST(Script, TellsTheLineThatMakesNoSense) {
+  EXPECT_EQ(ErrorIn("\n\nselect lstA"),
+            "line 3: select wants a control and a row, counted from 0: select C ROW [on|off]");
+  EXPECT_EQ(ErrorIn("dump\npress cmdA"), "line 2: there is no action press");
+  const std::pair<const char*, const char*> bad[] = {
+      {"select lstA 1x", "select wants"},
+      {"select lstA 99999999999", "select wants"},
+      {"select lstA 1 yes", "select wants"},
+      {"select lstA 1 on 2", "select wants"},
+      {"click", "click wants"},
+      {"click \"cmdA\"", "click wants"},
+      {"\"click\" cmdA", "there is no action click"},
+      {"Click cmdA", "there is no action Click"},
+      {"type txtA text", "type wants"},
+      {"type txtA \"text", "closing quote"},
+      {"type txtA \"text\\", "closing quote"},
+      {"type txtA \"\\q\"", "no escape"},
+      {"type txtA \"a\"b", "a blank has to follow"},
+      {"type txtA\"a\"", "a blank has to stand before"},
+      {"type txtA \"\xFF\"", "not UTF-8"},
+      {"type txtA \"\xC3\"", "not UTF-8"},
+      {"key txtA enter", "key wants"},
+      {"key txtA Alt+", "key wants"},
+      {"key txtA Alt+ab", "key wants"},
+      {"caret txtA 1", "caret wants"},
+      {"caret txtA -1 0", "caret wants"},
+      {"focus", "focus wants"},
+      {"step updA", "step wants"},
+      {"step updA left", "step wants"},
+      {"step updA up 0", "step wants"},
+      {"cell grdA 1", "cell wants"},
+      {"doubleclick", "doubleclick wants"},
+      {"edit grdA 1 2", "edit wants"},
+      {"tick", "tick wants"},
+      {"answer 0", "answer wants"},
+      {"answer 3", "answer wants"},
+      {"answer 5", "answer wants"},
+      {"answer 8", "answer wants"},
+      {"dump all", "dump wants"},
+      {"close it", "close wants"},
+  };
+  for (const auto& [line, what] : bad) {
+    const auto error = ErrorIn(line);
+    EXPECT_EQ(error.find("line 1: "), 0U) << line;
+    EXPECT_NE(error.find(what), std::string::npos) << line << " -> " << error;
+  }
+}
+
+}  // namespace
+}  // namespace orlin::testing

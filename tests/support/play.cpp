@@ -1,0 +1,131 @@
+#include <algorithm>
+#include <sstream>
+#include <utility>
+
+#include "OrlinCustomDialogs/public_classes.h"
+
+#include "app/arguments.h"
+#include "app/edit.h"
+#include "script/script.h"
+#include "support/dialog_test.h"
+#include "support/temporary_folder.h"
+
+namespace orlin {
+
+void PrintTo(const Value& value, std::ostream* out) {
+  switch (value.kind()) {
+    case Value::Kind::Empty:
+      *out << "empty";
+      break;
+    case Value::Kind::Integer:
+      *out << *value.Get<std::int16_t>();
+      break;
+    case Value::Kind::Long:
+      *out << *value.Get<std::int32_t>() << 'L';
+      break;
+    case Value::Kind::Double:
+      *out << *value.Get<double>() << 'D';
+      break;
+    case Value::Kind::Boolean:
+      *out << (*value.Get<bool>() ? "true" : "false");
+      break;
+    case Value::Kind::String:
+      *out << ::testing::PrintToString(*value.Get<std::string>());
+      break;
+    case Value::Kind::Array:
+      *out << '[';
+      for (const auto& element : value.Get<Array>()->Elements()) {
+        PrintTo(element, out);
+        *out << ',';
+      }
+      *out << ']';
+      break;
+    case Value::Kind::Object:
+      *out << "object";
+      break;
+  }
+}
+
+}  // namespace orlin
+
+namespace orlin::testing {
+namespace {
+
+StandardPlatformOptions PlatformFor(const PlayOptions& options, const TemporaryFolder& folder) {
+  StandardPlatformOptions platform;
+  if (options.Catalogue) platform.CatalogueFile = folder.Write("catalogue.tsv", *options.Catalogue);
+  if (options.Settings) platform.SettingsFile = folder.Write("settings.reg", *options.Settings);
+  if (options.DataList) platform.DataListFile = folder.Write("data.list", *options.DataList);
+  platform.DrivesFolder = options.Drives.value_or(folder.Path() / "drives");
+  platform.FaultFile = folder.Path() / "Tolmar.err";
+  platform.Now = options.Now;
+  return platform;
+}
+
+std::vector<Json> ReadLines(const std::string& trace) {
+  std::vector<Json> lines;
+  std::istringstream stream(trace);
+  for (std::string line; std::getline(stream, line);) lines.push_back(Json::parse(line));
+  return lines;
+}
+
+void Check(const DialogRun& run, std::ptrdiff_t answers, bool mayRefuse) {
+  const auto messages = run.Fields("message", "text");
+  EXPECT_LE(messages.size(), answers) << "nobody expected all of these messages: " << Json(messages);
+  if (mayRefuse) return;
+  for (const auto& refused : run.Events("refused")) ADD_FAILURE() << refused;
+}
+
+const Json& Nth(const std::vector<Json>& lines, std::optional<std::size_t> number) {
+  return number ? lines.at(*number) : lines.at(lines.size() - 1);
+}
+
+}  // namespace
+
+std::vector<Json> DialogRun::Events(std::string_view kind) const {
+  std::vector<Json> events;
+  std::copy_if(Lines.begin(), Lines.end(), std::back_inserter(events),
+               [&](const Json& line) { return line.at("event") == kind; });
+  return events;
+}
+
+std::vector<Json> DialogRun::Fields(std::string_view kind, const std::string& field) const {
+  std::vector<Json> fields;
+  for (const auto& line : Events(kind)) fields.push_back(line.at(field));
+  return fields;
+}
+
+Json DialogRun::Control(const std::string& name, std::optional<std::size_t> dump) const {
+  return Nth(Events("state"), dump).at("controls").at(name);
+}
+
+Json DialogRun::Focus(std::optional<std::size_t> dump) const { return Nth(Events("state"), dump).at("focus"); }
+
+DialogRun Play(std::string_view publicClass, const std::vector<std::string>& arguments, std::string_view script,
+               const PlayOptions& options) {
+  const auto* called = FindPublicClass(publicClass);
+  if (called == nullptr) throw std::invalid_argument("no public class " + std::string(publicClass));
+  const auto& parameters = called->Parameters();
+  ScriptedCall call{*called, BindArguments(*called, arguments, options.Levels), ParseScript(script), false, {}};
+  for (std::size_t i = 0; i < parameters.size(); ++i) {
+    const auto object = options.Objects.find(parameters[i].Name);
+    if (object != options.Objects.end()) call.Arguments[i] = object->second;
+  }
+  const auto answers = std::count_if(call.Script.begin(), call.Script.end(), [](const Action& action) {
+    return std::holds_alternative<actions::Answer>(action.Do);
+  });
+
+  const TemporaryFolder folder;
+  call.Platform = PlatformFor(options, folder);
+  std::ostringstream trace;
+  auto outcome = Run(std::move(call), trace);
+
+  DialogRun run{ReadLines(trace.str()), outcome.Result, outcome.Raised, {}};
+  for (std::size_t i = 0; i < parameters.size(); ++i) {
+    run.Arguments[parameters[i].Name] = std::move(outcome.Arguments[i]);
+  }
+  Check(run, answers, options.MayRefuse);
+  return run;
+}
+
+}  // namespace orlin::testing

@@ -1,0 +1,274 @@
+#include <string>
+#include <vector>
+
+#include "OrlinCustomDialogs/verification.h"
+
+#include "frame/modGeneral.h"
+#include "support/dialog_test.h"
+#include "verification/broken_catalogue.h"
+#include "verification/texts.h"
+
+namespace orlin::testing {
+namespace {
+
+using Strings = std::vector<std::string>;
+
+DialogRun Review(const std::string& items, const std::string& values, const std::string& script, int panelType = 49,
+                 const PlayOptions& options = {}) {
+  return Play("clsErrorMessageNova", {"vItemNo=" + items, "vValue=" + values, "PanelType=" + std::to_string(panelType)},
+              script, options);
+}
+
+/// The grid of a review of some items, without the row of titles.
+Json RowsOf(const std::string& items, const std::string& values, int panelType = 49) {
+  auto rows = Review(items, values, "dump", panelType).Control("vsFlexArray1").at("cells");
+  rows.erase(0);
+  return rows;
+}
+
+struct Kind {
+  int Item;
+  std::string Present;
+  Json Cells;
+  std::string Stored;
+};
+
+std::vector<Kind> AllKinds() {
+  const auto yes = Text(10697);
+  const auto no = Text(10707);
+  const std::string byFives = " (Increments of 5 only)";
+  return {
+      {29, "10", {Text(10686), "1", "10", "45", "255" + byFives, "60"}, "60"},
+      {27, "\"2\"", {Text(10687), "1", "2", "6", "90", "6"}, "6"},
+      {7, "5", {Text(10688), "N/A", "5", "3", "3", "3"}, "3"},
+      {37, "7", {Text(10689), "1", "7", "1", "128 A,B,C", "A"}, "253"},
+      {22, "3", {Text(10690), "N/A", "3", "30", "240" + byFives, "30"}, "30"},
+      {54, "9", {Text(10691), "N/A", "9", "15", "45", "30"}, "30"},
+      {53, "9", {Text(10692), "N/A", "9", "1", "2", "1"}, "1"},
+      {65, "0", {Text(10693), "1", no, yes, yes, yes}, "1"},
+      {66, "0", {Text(10694), "1", no, yes, yes, yes}, "1"},
+      {52, "0", {Text(10695), "N/A", Text(10712), "3", "6", "4"}, "4"},
+      {55, "0", {Text(10696), "N/A", no, yes, yes, yes}, "1"},
+      {17, "1", {Text(10739), "N/A", "E", "-", "-", "-"}, "0"},
+      {19, "\"2\"", {Text(10740), "N/A", "P", "-", "-", "-"}, "0"},
+      {30, "0", {Text(10741), "N/A", no, yes, yes, yes}, "1"},
+      {10, "1", {Text(10743), "1", yes, no, no, no}, "0"},
+      {8, "1", {Text(10742), "1", yes, no, no, no}, "0"},
+      {17, "\"x\"", {Text(10739), "N/A", "x", "-", "-", "-"}, "0"},
+      {99, "5", {"", "", "", "", "", ""}, ""},  // of no kind: the row stays blank
+      {54, "empty", {Text(10691), "N/A", "", "15", "45", "30"}, "30"},
+  };
+}
+
+TEST(SiaReview, ShowsAndStoresEveryKindOfParameter) {
+  std::string items = "[";
+  std::string values = "[";
+  Json cells = Json::array();
+  std::vector<Value> stored;
+  cells.push_back(Json::array());
+  for (int title = 10701; title <= 10706; ++title) cells[0].push_back(Text(title));
+  for (const auto& kind : AllKinds()) {
+    items += (stored.empty() ? "" : ",") + std::to_string(kind.Item);
+    values += (stored.empty() ? "" : ",") + kind.Present;
+    cells.push_back(kind.Cells);
+    stored.emplace_back(kind.Stored);
+  }
+  const auto run = Review(items + "]", values + "]", "answer 1\ndump\nclick OptAccept\nclick btnAcceptChanges");
+  EXPECT_EQ(run.Control("vsFlexArray1").at("cells"), cells);
+  EXPECT_EQ(run.Events("show").at(0).at("caption"), Text(10681));
+  for (const auto& [name, text] : {std::pair{"lblUserWarning", 10683},
+                                   {"grpErrorDetails", 10682},
+                                   {"OptIgnore", 10684},
+                                   {"OptAccept", 10685},
+                                   {"btnAcceptChanges", 10680}}) {
+    EXPECT_EQ(run.Control(name).at("caption"), Text(text));
+  }
+  EXPECT_EQ(run.Fields("message", "text"), std::vector<Json>{Text(10700)});
+  EXPECT_EQ(run.Fields("message", "title"), std::vector<Json>{Text(10699)});
+  EXPECT_EQ(run.Result, 2);
+  EXPECT_EQ(run.Argument("vValue"), Array(stored));
+}
+
+TEST(SiaReview, ItemNumberTellsTheAreaOrPoint) {
+  const struct {
+    int Item;
+    const char* Area;
+  } cases[] = {{129, "2"}, {929, "10"}, {127, "2"}, {137, "2"},   {122, "1"},   {222, "2"},  {165, "2"},
+               {166, "2"}, {110, "2"},  {108, "2"}, {107, "N/A"}, {154, "N/A"}, {152, "N/A"}};
+  for (const auto& [item, area] : cases) {
+    EXPECT_EQ(RowsOf("[" + std::to_string(item) + "]", "[1]")[0][1], area) << item;
+  }
+}
+
+TEST(SiaReview, PanelTypeSetsTheLimitOfPoints) {
+  for (const auto& [panelType, limit] : {std::pair{49, "128"}, {50, "64"}, {51, "24"}, {1, ""}}) {
+    EXPECT_EQ(RowsOf("[37]", "[1]", panelType)[0][4], limit + std::string(" A,B,C")) << panelType;
+  }
+}
+
+TEST(SiaReview, GridHasARowForEachItem) {
+  for (const int count : {0, 1, 60}) {
+    const auto n = std::to_string(count);
+    const auto rows = RowsOf(count == 0 ? "[]" : "[29*" + n + "]", count == 0 ? "[]" : "[1*" + n + "]");
+    EXPECT_EQ(rows.size(), static_cast<std::size_t>(count));
+  }
+  EXPECT_EQ(Review("[]", "[]", "answer 1\nclick btnAcceptChanges").Result, 1);
+  EXPECT_EQ(Review("[]", "[]", "answer 1\nclick OptAccept\nclick btnAcceptChanges").Result, 2);
+  EXPECT_EQ(RowsOf("[29,27]", "[1]").size(), 1U) << "the values set the number";
+}
+
+TEST(SiaReview, DesiredValueHasToComply) {
+  const struct {
+    int Item;
+    std::string Typed;
+    int Message;  // 0: it is accepted
+    std::string Left;
+    int PanelType = 49;
+    std::size_t Beeps = 0;
+  } cases[] = {
+      {29, "45", 0, "45"},      {29, "255", 0, "255"},   {29, "40", 10708, "60"},    {29, "260", 10708, "60"},
+      {29, "62", 1151, "60"},   {29, "", 1151, "60"},    {29, "40000", 1151, "60"},  {22, "240", 0, "240"},
+      {22, "31", 1151, "30"},   {22, "25", 10708, "30"}, {27, "90", 0, "90"},        {27, "91", 10708, "6"},
+      {27, "5", 10708, "6"},    {27, "", 10708, "6"},    {27, "x7-", 0, "7", 49, 2}, {54, "44", 0, "44"},
+      {52, "7", 10708, "4"},    {37, "b", 0, "B"},       {37, "C", 0, "C"},          {37, "AB", 1151, "A"},
+      {37, "1a", 1151, "A"},    {37, "", 1151, "A"},     {37, "d2", 0, "2", 49, 1},  {37, "128", 0, "128"},
+      {37, "129", 10708, "A"},  {37, "0", 10708, "A"},   {37, "24", 0, "24", 51},    {37, "25", 10708, "A", 51},
+      {37, "1", 10708, "A", 1}, {37, "c", 0, "C", 1},
+  };
+  for (const auto& row : cases) {
+    SCOPED_TRACE(std::to_string(row.Item) + " " + row.Typed);
+    const std::string answer = row.Message == 0 ? "" : "answer 1\n";
+    const auto run = Review("[" + std::to_string(row.Item) + "]", "[1]",
+                            answer + "edit vsFlexArray1 1 5 \"" + row.Typed + "\"\ndump", row.PanelType);
+    EXPECT_EQ(run.Control("vsFlexArray1").at("cells")[1][5], row.Left);
+    EXPECT_EQ(run.Events("beep").size(), row.Beeps);
+    if (row.Message == 0) continue;
+    EXPECT_EQ(run.Fields("message", "text"), std::vector<Json>{Text(row.Message)});
+    EXPECT_EQ(run.Fields("message", "title"), std::vector<Json>{Text(row.Message == 1151 ? 262 : 10709)});
+  }
+}
+
+TEST(SiaReview, ValueThatEqualsTheMaximumCannotBeEdited) {
+  for (const int item : {7, 65, 66, 55, 17, 19, 30, 10, 8, 99}) {
+    const auto run =
+        Review("[" + std::to_string(item) + "]", "[1]",
+               "answer 1\ndoubleclick vsFlexArray1\ndump\ntype vsFlexArray1 \"1\"", 49, {.MayRefuse = true});
+    EXPECT_EQ(run.Fields("message", "text"), std::vector<Json>{Text(10710)}) << item;
+    EXPECT_EQ(run.Fields("message", "title"), std::vector<Json>{Text(10711)});
+    EXPECT_EQ(run.Control("vsFlexArray1").at("editing"), false);
+  }
+  // Also one that the operator has set there; other rows can still be edited.
+  const auto run = Review("[53,54]", "[9,9]",
+                          "answer 1\nedit vsFlexArray1 1 5 \"2\"\ncell vsFlexArray1 1 5\ndoubleclick vsFlexArray1\n"
+                          "edit vsFlexArray1 2 5 \"20\"\ndump");
+  EXPECT_EQ(run.Control("vsFlexArray1").at("cells")[2][5], "20");
+}
+
+TEST(SiaReview, EscapeRestoresOldTextAndAllowsAnotherEdit) {
+  const auto run = Review("[29]", "[1]",
+                          "doubleclick vsFlexArray1\ntype vsFlexArray1 \"1\"\nkey vsFlexArray1 Escape\ndump\n"
+                          "edit vsFlexArray1 1 5 \"100\"\ndump");
+  EXPECT_EQ(run.Control("vsFlexArray1", 0).at("cells")[1][5], "60");
+  EXPECT_EQ(run.Control("vsFlexArray1", 1).at("cells")[1][5], "100");
+}
+
+TEST(SiaReview, OutcomeIsTheResult) {
+  const std::string edit = "edit vsFlexArray1 1 5 \"100\"\n";
+  const struct {
+    std::string Script;
+    int Result;
+    std::vector<int> Messages;
+    const char* Stored;  // null: the values stay as they came
+  } cases[] = {
+      {"answer 1\n" + edit + "click btnAcceptChanges", 1, {10698}, nullptr},
+      {"answer 1\n" + edit + "click OptAccept\nclick OptIgnore\nkey - Enter", 1, {10698}, nullptr},
+      {"answer 1\n" + edit + "click OptAccept\nkey - Enter", 2, {10700}, "100"},
+      {"answer 6\n" + edit + "click btnCancel", 0, {10728}, nullptr},
+      {"answer 6\n" + edit + "click OptAccept\nkey - Escape", 0, {10728}, nullptr},
+      {"answer 7\nanswer 1\n" + edit + "click OptAccept\nclick btnCancel\nkey - Enter", 2, {10728, 10700}, "100"},
+      {edit + "click OptAccept\nclose", 0, {}, nullptr},
+  };
+  for (const auto& row : cases) {
+    const auto run = Review("[29,27]", "[10,2]", row.Script);
+    std::vector<Json> messages;
+    for (const int message : row.Messages) messages.emplace_back(Text(message));
+    EXPECT_EQ(run.Result, row.Result) << row.Script;
+    EXPECT_EQ(run.Fields("message", "text"), messages) << row.Script;
+    const auto expected = row.Stored != nullptr ? Array({row.Stored, "6"}) : Array({Integer(10), Integer(2)});
+    EXPECT_EQ(run.Argument("vValue"), expected) << row.Script;
+    EXPECT_EQ(run.Argument("vItemNo"), Array({Integer(29), Integer(27)}));
+  }
+}
+
+TEST(SiaReview, QuestionBeforeCancelNamesTheConnection) {
+  const auto run =
+      Play("clsErrorMessageNova", {"vItemNo=[]", "vValue=[]", "bThroughComm=true"}, "answer 6\nclick btnCancel");
+  EXPECT_EQ(run.Fields("message", "text"), std::vector<Json>{Text(10730)});
+  EXPECT_EQ(run.Fields("message", "flags"), std::vector<Json>{4});
+}
+
+TEST(SiaReview, AnyRecordAboveTheOperatorLeavesCancelAlone) {
+  const struct {
+    Strings Levels;
+    bool Visible;
+    bool Enabled;
+  } cases[] = {{{"AuthorityLevel=2,2", "Any=2,2"}, true, true},
+               {{"AuthorityLevel=2,2", "Any=3,2"}, false, true},
+               {{"Any=0,3", "AuthorityLevel=2,2"}, true, false}};
+  for (const auto& row : cases) {
+    const auto run = Review("[29]", "[1]", "dump", 49, {.Levels = row.Levels});
+    for (const auto* name :
+         {"grpErrorDetails", "btnAcceptChanges", "lblUserWarning", "OptAccept", "OptIgnore", "vsFlexArray1"}) {
+      EXPECT_EQ(run.Control(name).at("visible"), row.Visible) << name;
+      EXPECT_EQ(run.Control(name).at("enabled"), row.Enabled) << name;
+    }
+    EXPECT_EQ(run.Control("btnCancel").at("visible"), true);
+    EXPECT_EQ(run.Control("btnCancel").at("enabled"), true);
+  }
+}
+
+TEST(SiaReview, FailureBeforeTheShowGivesZeroAndTouchesNothing) {
+  const std::vector<Strings> cases = {
+      {"vItemNo=[29]", "vValue=[1,2]"},
+      {"vItemNo=29", "vValue=[1]"},
+      {"vItemNo=[29]", "vValue=1"},
+      {"vItemNo=[\"x\"]", "vValue=[1]"},
+      {"vItemNo=[]", "vValue=[]", "SecurityLevels=5"},
+  };
+  for (const auto& arguments : cases) {
+    const auto run = Play("clsErrorMessageNova", arguments, "click OptAccept\nclick btnAcceptChanges");
+    EXPECT_EQ(run.Result, 0) << arguments[0];
+    EXPECT_TRUE(run.Events("show").empty()) << arguments[0];
+  }
+}
+
+class SiaReviewFaults : public BrokenCatalogueTest {
+ protected:
+  std::int32_t Display() {
+    return clsErrorMessageNova().Display(Array({Integer(65), Integer(29), Integer(29)}), Values,
+                                         std::make_shared<SecurityLevels>(), 49, false);
+  }
+  Value Values = Array({Integer(5), Integer(6), Integer(7)});
+};
+
+TEST_F(SiaReviewFaults, FailureWhileStoringLeavesWhatIsStored) {
+  Host->Answers = {answers::Ok};
+  Host->Operate = [this](shown::Dialog& dialog) {
+    dialog.Find("OptAccept")->Press();
+    dialog.Find("btnAcceptChanges")->Press();
+    FailsFor = 10707;  // needed for the second row, not for the first
+  };
+  EXPECT_EQ(Display(), 0);
+  EXPECT_EQ(Values, Array({"1", Integer(6), Integer(7)}));
+}
+
+TEST_F(SiaReviewFaults, FailureIsReportedWhereThereIsAFaultObject) {
+  ASSERT_EQ(InitApplicationVariables(), 0);
+  Host->Answers = {answers::Ok};
+  Values = 5;
+  EXPECT_EQ(Display(), 0);
+  EXPECT_EQ(Faults, Log{"frmErrorSIA_Nova Display() 13"});
+}
+
+}  // namespace
+}  // namespace orlin::testing

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "app/arguments.h"
+#include "catalogue/text_catalogue.h"
+#include "support/dialog_test.h"
+
+namespace orlin::testing {
+
+inline std::string Text(std::int16_t number) { return TextCatalogue().GetLocalTextBASE(number); }
+
+/// A text with its variable, %NAME%, replaced.
+inline std::string Text(std::int16_t number, const std::string& marker, const std::string& value) {
+  auto text = Text(number);
+  return text.replace(text.find(marker), marker.size(), value);
+}
+
+/// The captions of labels and the rows of lists are these texts.
+inline void ExpectTexts(const DialogRun& run,
+                        const std::vector<std::pair<std::string, std::vector<std::int16_t>>>& controls) {
+  for (const auto& [name, numbers] : controls) {
+    const auto control = run.Control(name);
+    Json texts = Json::array();
+    for (const auto number : numbers) texts.push_back(Text(number));
+    EXPECT_EQ(control.contains("list") ? control.at("list") : Json{control.at("caption")}, texts) << name;
+  }
+}
+
+/// The one message of a run.
+inline void ExpectMessage(const DialogRun& run, std::int16_t text, std::int16_t title, int flags) {
+  const auto message = run.Events("message").at(0);
+  EXPECT_EQ(message.at("text"), Text(text));
+  EXPECT_EQ(message.at("title"), Text(title));
+  EXPECT_EQ(message.at("flags"), flags);
+}
+
+/// The call of a zone editor, without its script.
+struct Call {
+  std::string Class;
+  std::vector<std::string> Arguments;
+  std::vector<std::string> Levels = {};
+
+  [[nodiscard]] DialogRun Play(const std::string& script) const {
+    PlayOptions options;
+    options.Levels = Levels;
+    return testing::Play(Class, Arguments, script, options);
+  }
+};
+
+/// Every argument came back as it went in.
+inline void ExpectUntouched(const Call& call, const DialogRun& run) {
+  const auto& publicClass = *FindPublicClass(call.Class);
+  const auto given = BindArguments(publicClass, call.Arguments, {});
+  for (std::size_t i = 0; i < given.size(); ++i) {
+    const auto& name = publicClass.Parameters()[i].Name;
+    if (name == kSecurityLevels) continue;
+    EXPECT_EQ(run.Argument(name), given[i]) << name << Json(call.Arguments);
+  }
+}
+
+/// Ends of the show other than OK give 1 and change nothing.
+inline void ExpectOnlyOkWrites(const Call& call, const std::string& changes, const std::vector<std::string>& ends) {
+  for (const auto& end : ends) {
+    const auto run = call.Play(changes + "\n" + end);
+    EXPECT_EQ(run.Result, 1) << end;
+    ExpectUntouched(call, run);
+  }
+}
+
+}  // namespace orlin::testing
