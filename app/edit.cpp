@@ -9,6 +9,7 @@
 
 #include "OrlinCustomDialogs/failure.h"
 
+#include "app/account_rules.h"
 #include "app/arguments.h"
 #include "app/installed_platform.h"
 #include "app/usage_error.h"
@@ -92,11 +93,10 @@ Outcome RunInWindows(const PublicClass& publicClass, std::vector<Value> argument
   return outcome;
 }
 
-int StatusOf(const Outcome& outcome) {
-  constexpr std::int32_t confirmed = 0;
-  constexpr std::int32_t lastOfNotConfirmed = 2;
-  if (!outcome.Result || *outcome.Result < confirmed || *outcome.Result > lastOfNotConfirmed) return status::Failed;
-  return *outcome.Result == confirmed ? status::Done : status::NotConfirmed;
+int StatusOf(const PublicClass& publicClass, const Outcome& outcome) {
+  constexpr std::int32_t lastOutcome = 2;  // numbers of failures lie above
+  if (!outcome.Result || *outcome.Result < 0 || *outcome.Result > lastOutcome) return status::Failed;
+  return Confirmed(publicClass, *outcome.Result, outcome.Arguments) ? status::Done : status::NotConfirmed;
 }
 
 }  // namespace
@@ -122,7 +122,9 @@ int Edit(const EditOptions& options, std::istream& in, std::ostream& out, const 
       options.Host.value_or(options.Script ? HostKind::Script : HostKind::Windows) == HostKind::Windows;
   if (!inWindows && !options.Script) throw UsageError("--host script wants --script FILE");
   WindowSystem* const system = inWindows ? &windows() : nullptr;
-  const auto statusOf = [&](const Outcome& outcome) { return options.ExitStatus ? StatusOf(outcome) : status::Done; };
+  const auto statusOf = [&](const Outcome& outcome) {
+    return options.ExitStatus ? StatusOf(publicClass, outcome) : status::Done;
+  };
   if (!options.Script) {
     return statusOf(RunInWindows(publicClass, std::move(arguments), options.Platform, *system, out));
   }

@@ -205,7 +205,11 @@ Operation ReadOperation(const std::vector<Word>& words, int line) {
   const auto& name = words.front();
   const auto syntax = std::find_if(kActions.begin(), kActions.end(),
                                    [&](const auto& known) { return !name.Quoted && known.Name == name.Text; });
-  if (syntax == kActions.end()) throw ScriptError(line, "there is no action " + name.Text);
+  if (syntax == kActions.end()) {
+    std::string known;
+    for (const auto& action : kActions) known.append(known.empty() ? "" : ", ").append(action.Name);
+    throw ScriptError(line, name.Text + " is no action; a line begins with one of " + known);
+  }
   try {
     WordReader reader(words);
     auto operation = syntax->Read(reader);

@@ -6,11 +6,13 @@
 
 // Editors of outputs and relays.
 //
-// Each `Display` returns 0 after OK, 1 after Cancel or the close box, else the number of a failure: 380 or 9 for a
-// number that names no choice, 13 or 6 for a value that is no integer of its size, 424 or 13 for `SecurityLevels` that
-// are no collection, 5 for a collection with records but without "AuthorityLevel". Such a failure comes before
-// anything is shown. A number may come in as a number or as a text of digits. On any outcome but 0 the arguments stay
-// as they came, unless a class says otherwise. A part that is hidden or disabled keeps its value.
+// Each `Display` returns 0 after OK, 1 after Cancel or the close box, else the number of a failure, before which
+// nothing was shown: 380 or 9 for a number that names no choice, 13 or 6 for a value that is no integer of its size,
+// 424 or 13 for `SecurityLevels` that are no collection, 5 for a collection with records but without "AuthorityLevel".
+// Two more come after OK: 6 for stored hexadecimal digits that no 32-bit integer holds, 9 for an array that is too
+// short. A number may come in as a number or as a text of digits. On any outcome but 0 the arguments stay as they came,
+// unless a class says otherwise; after one of these two failures some hold new values. A part that is hidden or
+// disabled keeps its value.
 
 namespace orlin {
 

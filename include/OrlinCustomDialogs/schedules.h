@@ -62,8 +62,8 @@ class clsSkedFunc_Arbor {
   ///
   /// `Byte2`, `Byte3`: the parameters, 0 to 255: a mask of bits, the value of a choice, or a number. For the codes 3
   /// and 4 the byte is one lower than the number that is shown. A choice that the model lacks is not selected, and a
-  /// bit that it lacks is lost. A function without parameters gives 0, but for `Byte2` where a function with a number
-  /// was selected before: that number comes back.
+  /// bit that it lacks is lost; a value that is no number selects nothing. A function without parameters gives 0, but
+  /// for `Byte2` where a function with a number was selected before: that number comes back.
   ///
   /// Returns 0 after OK, 1 after Cancel or the close box, else the number of a failure, before which nothing was shown:
   /// 13 for a `Byte1` that is no number, or a `Byte2` that is none with the codes 3 and 4; 6 for one that does not fit

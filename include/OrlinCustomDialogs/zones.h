@@ -50,7 +50,7 @@ class clsZoneFuncDescBirch {
   /// `vName`: names the zone in the title; only shown.
   ///
   /// `vRetVal`: an array of texts from index 0, the description of each zone function. Element 0 is replaced by the
-  /// text for no function on every call, whatever its outcome.
+  /// text for no function, also where the operator does not confirm.
   ///
   /// `iFunction`: the chosen function, an index of `vRetVal`; a number or a text of digits. After OK an Integer.
   ///
@@ -76,9 +76,9 @@ class clsZoneTypeBirch {
   /// `iZoneNum`: the number of the zone, from 1 up, and `iOrlinRF`: 0 or not, whether the zone has a radio. Together
   /// they decide which types there are. Numbers or texts of digits; never changed.
   ///
-  /// `iZoneType`: the stored type, 0 to 5, a number or a text of digits. After OK an Integer. On a zone from 129 up
-  /// with a radio, 5 selects the second type and every other number the first, so that OK may store another number than
-  /// came, also where the operator changed nothing.
+  /// `iZoneType`: the stored type, 0 to 5, a number or a text of digits. After OK an Integer. On a zone with
+  /// a radio, but for zones 9 to 128, 5 selects the second type and every other number the first, so that OK may store
+  /// another number than came, also where the operator changed nothing.
   ///
   /// `iMultiZoneType`: ignored.
   ///
@@ -124,9 +124,10 @@ using clsPointCodes_OakBase = PointCodesOak<23>;
 class clsZoneFunctions_Fir {
  public:
   /// `ZoneCode`: a text of five hexadecimal characters. The second decides what the first may be: 0 to 7 with 0 or 3,
-  /// 0 to F with 1, 2, 4 or 5. A missing or other character counts as 0; one that its list does not have selects none.
-  /// Written only after an OK with a valid code, as such a text again. A code no character of which selects an item,
-  /// "9FFFF" for example, comes back as "8888" if the operator changes nothing.
+  /// 0 to F with 1, 2, 4 or 5. A missing or other character counts as 0. A first character of 8 or above with a second
+  /// of 0 or 3 opens as if it were the second: "93123" as "33123". Any other character that its list does not have
+  /// selects none; "9FFFF", of which no character selects an item, opens as "8888" and comes back so. Written only
+  /// after an OK with a valid code, as such a text again.
   ///
   /// Returns 0 after OK with a valid code. 1 in every other case: after Cancel, and after OK or the close box with an
   /// invalid code, of which the operator is told when the dialog has closed. Never a failure, but for 91 where the

@@ -166,11 +166,16 @@ void Control::SetFocus() {
 
 Control* Label::Names() const {
   const auto& all = Form().Controls();
-  const auto candidate = [this](const Control* control) {
-    return control->TakesFocus() && control->Parent() == Parent() && (Index() < 0 || control->Index() == Index());
-  };
-  const auto found = std::find_if(std::find(all.begin(), all.end(), this), all.end(), candidate);
-  return found == all.end() ? nullptr : *found;
+  Control* first = nullptr;
+  for (auto next = std::find(all.begin(), all.end(), this) + 1; next != all.end(); ++next) {
+    auto* control = *next;
+    if (control->Parent() != Parent() || (Index() >= 0 && control->Index() != Index())) continue;
+    if (first != nullptr && control->Kind() == ControlKind::Label) break;
+    if (!control->TakesFocus()) continue;
+    if (control->Visible()) return control;
+    if (first == nullptr) first = control;
+  }
+  return first;
 }
 
 // ---------------------------------------------------------------------------------------------- buttons

@@ -128,7 +128,8 @@ std::string FunctionText(const FunctionPair& pair, std::int32_t panelType) {
     return candidate.Plain == plain && Contains(candidate.PanelTypes, panelType);
   });
   const auto text = other == kOtherTexts.end() ? plain : other->Instead;
-  return GetLocalText(text, "NUMBER", std::to_string(pair.Second));
+  const bool isNumbered = pair.First >= 3 && pair.First <= 6 && pair.Second > 0;
+  return isNumbered ? GetLocalText(text, "NUMBER", std::to_string(pair.Second)) : GetLocalText(text);
 }
 
 }  // namespace orlin

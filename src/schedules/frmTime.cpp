@@ -114,7 +114,7 @@ void frmTime::TakeCharacter(const Part& part, int& character) {
 }
 
 void frmTime::Leave(const Part& part) {
-  if (part.Box.Text().empty()) part.Box.SetText("0");
+  // An empty box counts as 0.
   part.Box.SetText(TwoDigits(ToInteger(NumericValue(part.Box.Text()))));
   StatusBar1.SetText("");
 }

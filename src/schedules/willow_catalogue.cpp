@@ -134,13 +134,10 @@ bool HasFunction(double code, ePanelType panel) {
 }
 
 int FunctionRow(std::string_view code, ePanelType panel) {
-  if (code.empty()) return -1;
   const double number = NumericValue(code);
+  if (!HasFunction(number, panel)) return -1;
   const bool behindGap = number >= kFirstBehindGap && panel != ePanelType::WillowAce;
-  const double row = number - 1 - (behindGap ? kGap : 0);
-  int rows = 0;
-  for (const auto& functions : kFunctions) rows += Has(panel, functions) ? CodeCount(functions) : 0;
-  return row >= 0 && row < rows ? static_cast<int>(row) : -1;
+  return static_cast<int>(number) - 1 - (behindGap ? kGap : 0);
 }
 
 }  // namespace orlin::willow

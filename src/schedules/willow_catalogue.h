@@ -16,8 +16,8 @@ namespace orlin::willow {
 /// Whether the panel has a function with that code.
 [[nodiscard]] bool HasFunction(double code, ePanelType panel);
 
-/// The row of a code in `FunctionEntries`, counted from 0, or -1 where the list has no such row. A code that the panel
-/// lacks may lead to the row of another one.
+/// The row of a code in `FunctionEntries`, counted from 0, or -1 for a code that the panel lacks: its row by the number
+/// alone would be that of another function.
 [[nodiscard]] int FunctionRow(std::string_view code, ePanelType panel);
 
 }  // namespace orlin::willow

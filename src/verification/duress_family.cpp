@@ -19,9 +19,10 @@ int DigitOf(char c) {
 class Families {
  public:
   explicit Families(const Array& codes) {
-    for (const auto& code : codes.Elements()) Count(ToText(code), 1);
+    for (const auto& code : codes.Elements()) {
+      for (const auto& member : CalculateDuressPasscode(ToText(code))) ++owners_[member];
+    }
   }
-  void Remove(const std::string& code) { Count(code, -1); }
 
   /// Whether the passcode, which has been counted, is in the family of another one.
   [[nodiscard]] bool HasOther(const std::string& code) const {
@@ -31,11 +32,6 @@ class Families {
   }
 
  private:
-  void Count(const std::string& code, int change) {
-    if (code.empty()) return;
-    for (auto& member : CalculateDuressPasscode(code)) owners_[member] += change;
-  }
-
   // How many families a passcode is in.
   std::unordered_map<std::string, int> owners_;
 };
@@ -58,7 +54,8 @@ DuressFamily CalculateDuressPasscode(const std::string& p) {
 bool UpdateMatchPasscodeArray(Array& codes, std::int16_t PasscodeLength) {
   std::optional<bool> anyStays;
   ReportFailure(PasscodeFault(" UpdateMatchPasscodeArray"), [&] {
-    Families families(codes);
+    // Conflicts are mutual, so that an entry without one can be emptied without a new count.
+    const Families families(codes);
     bool stays = false;
     for (auto i = codes.LowerBound(); i <= codes.UpperBound(); ++i) {
       const auto entry = ToText(codes.At(i));
@@ -67,7 +64,6 @@ bool UpdateMatchPasscodeArray(Array& codes, std::int16_t PasscodeLength) {
         stays = true;
         continue;
       }
-      families.Remove(entry);
       codes.At(i) = "";
     }
     anyStays = stays;

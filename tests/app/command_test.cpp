@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <optional>
@@ -34,6 +35,11 @@ std::string Read(const std::filesystem::path& path) {
 
 class CommandTest : public ::testing::Test {
  protected:
+  CommandTest() {
+    // Nobody sits in front of a screen.
+    for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) unsetenv(display);
+  }
+
   /// Runs orlin-host with a text on standard input. Its output goes to a file, or to a descriptor that is named.
   Ended Run(std::vector<std::string> words, const std::string& input = {}, std::optional<int> output = {}) const {
     const auto in = Folder.Write("in", input);
@@ -165,6 +171,9 @@ TEST_F(CommandTest, TellsTheOutcomeWhereItIsAsked) {
       {{"clsZoneFunctionsWillow"}, "click cmdCancel", 1},
       {{"clsZoneFunctionsWillow"}, "close", 1},
       {{"clsZoneFunctionsBirch", "vType=16"}, "", 3},
+      {{"clsErrorMessageNova", "vItemNo=[]", "vValue=[]"}, "click OptAccept\nclick btnAcceptChanges", 0},
+      {{"clsErrorMessageNova", "vItemNo=[]", "vValue=[]"}, "click btnCancel", 1},
+      {{"clsPanelGMT", "iHrs=13"}, "", 3},
   };
   for (const auto& one : cases) {
     EXPECT_EQ(Edit(one.Words, one.Script).Status, 0) << one.Script;

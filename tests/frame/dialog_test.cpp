@@ -133,6 +133,25 @@ TEST_F(DialogTest, FocusMovesByCodeClickTabAndAccessKey) {
   EXPECT_EQ(PlainCaption(lblTwo.Caption()), "Two & more");
 }
 
+TEST_F(FrameTest, LabelNamesTheVisibleControlBehindIt) {
+  Dialog form("frmTest", "", {});
+  Label lblTurns(form, "lblTurns", "&Turns");
+  TextBox txtTurn(form, "txtTurn");
+  ListBox lstTurn(form, "lstTurn");
+  Label lblLone(form, "lblLone");
+  Frame fra(form, "fra");
+  Label lblElsewhere(fra, "lblElsewhere");
+  ControlArray<Label, 2> lblDigit(form, "lblDigit");
+  ControlArray<ComboBox, 2> cmbDigit(form, "cmbDigit");
+  EXPECT_EQ(lblTurns.Names(), &txtTurn);
+  txtTurn.SetVisible(false);
+  EXPECT_EQ(lblTurns.Names(), &lstTurn);
+  lstTurn.SetVisible(false);
+  EXPECT_EQ(lblTurns.Names(), &txtTurn);
+  EXPECT_EQ(lblDigit[1].Names(), &cmbDigit[1]);
+  EXPECT_EQ(lblElsewhere.Names(), nullptr);
+}
+
 TEST_F(DialogTest, NoKeyArrivesAtAControlOutOfReach) {
   txtTwo.SetVisible(false);
   EXPECT_EQ(During([&] {

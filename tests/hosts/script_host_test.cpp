@@ -72,6 +72,26 @@ struct Everything {
   }
 };
 
+/// Looks at the dialog as a host leaves it.
+class WatchedHost final : public DialogHost {
+ public:
+  explicit WatchedHost(std::shared_ptr<ScriptHost> host) : host_(std::move(host)) {}
+
+  [[nodiscard]] SizeInTwips Screen() const override { return host_->Screen(); }
+  void ShowModal(shown::Dialog& dialog) override {
+    host_->ShowModal(dialog);
+    EXPECT_FALSE(dialog.IsShown());
+  }
+  int ShowMessage(const Message& message) override { return host_->ShowMessage(message); }
+  void Beep() override { host_->Beep(); }
+  void HandlerFailed(const shown::Dialog& dialog, std::string_view handler, const Failure& failure) override {
+    host_->HandlerFailed(dialog, handler, failure);
+  }
+
+ private:
+  std::shared_ptr<ScriptHost> host_;
+};
+
 /// Plays scripts on a dialog of every kind, without a public class around it.
 class ScriptHostTest : public ::testing::Test {
  protected:
@@ -83,7 +103,7 @@ class ScriptHostTest : public ::testing::Test {
     orlin::Trace trace(out);
     const auto host = std::make_shared<ScriptHost>(ParseScript(script), trace, strict);
     Platform platform;
-    platform.Host = host;
+    platform.Host = std::make_shared<WatchedHost>(host);
     UsePlatform(std::move(platform));
     Everything dialog;
     try {
@@ -279,6 +299,33 @@ TEST_F(ScriptHostTest, AnswersMessages) {
     EXPECT_EQ(Answered, one.Answer) << one.Script;
     const auto at = trace.find("{\"event\":\"refused\"");
     EXPECT_EQ(at == std::string::npos ? "" : trace.substr(at), one.Refused) << one.Script;
+  }
+}
+
+TEST_F(ScriptHostTest, AnswersMessagesBeforeTheDialogByWhatTheyOffer) {
+  const struct {
+    int Flags;
+    const char* Script;
+    int Answer;
+  } cases[] = {
+      {Message::OkOnly, "", 1},
+      {Message::OkOnly, "answer 2", 1},
+      {Message::Warning, "answer 1", 1},
+      {Message::OkCancel, "", 1},
+      {Message::OkCancel, "answer 2", 2},
+      {Message::OkCancel, "answer 7", 1},
+      {Message::OkCancel | Message::Warning, "answer 2", 2},
+      {Message::YesNo, "", 6},
+      {Message::YesNo, "answer 7", 7},
+      {Message::YesNo | Message::Warning, "answer 7", 7},
+      {Message::YesNo, "dump\nanswer 7", 6},
+  };
+  for (const auto& one : cases) {
+    std::ostringstream out;
+    orlin::Trace trace(out);
+    ScriptHost host(ParseScript(one.Script), trace, false);
+    EXPECT_EQ(host.ShowMessage({"?", one.Flags, std::nullopt}), one.Answer) << one.Flags << ' ' << one.Script;
+    EXPECT_NE(out.str().find(R"("title":null,)"), std::string::npos);
   }
 }
 

@@ -72,7 +72,9 @@ TEST(Script, KeepsTheNumberAndTheSourceOfALine) {
 TEST(Script, TellsTheLineThatMakesNoSense) {
   EXPECT_EQ(ErrorIn("\n\nselect lstA"),
             "line 3: select wants a control and a row, counted from 0: select C ROW [on|off]");
-  EXPECT_EQ(ErrorIn("dump\npress cmdA"), "line 2: there is no action press");
+  EXPECT_EQ(ErrorIn("dump\npress cmdA"),
+            "line 2: press is no action; a line begins with one of select, click, type, key, caret, focus, step, cell, "
+            "doubleclick, edit, tick, answer, dump, close");
   const std::pair<const char*, const char*> bad[] = {
       {"select lstA 1x", "select wants"},
       {"select lstA 99999999999", "select wants"},
@@ -80,8 +82,8 @@ TEST(Script, TellsTheLineThatMakesNoSense) {
       {"select lstA 1 on 2", "select wants"},
       {"click", "click wants"},
       {"click \"cmdA\"", "click wants"},
-      {"\"click\" cmdA", "there is no action click"},
-      {"Click cmdA", "there is no action Click"},
+      {"\"click\" cmdA", "click is no action"},
+      {"Click cmdA", "Click is no action"},
       {"type txtA text", "type wants"},
       {"type txtA \"text", "closing quote"},
       {"type txtA \"text\\", "closing quote"},

@@ -9,6 +9,7 @@
 #include "script/script.h"
 #include "support/dialog_test.h"
 #include "support/temporary_folder.h"
+#include "support/windows_of_tests.h"
 
 namespace orlin {
 
@@ -72,8 +73,39 @@ std::vector<Json> ReadLines(const std::string& trace) {
 void Check(const DialogRun& run, std::ptrdiff_t answers, bool mayRefuse) {
   const auto messages = run.Fields("message", "text");
   EXPECT_LE(messages.size(), answers) << "nobody expected all of these messages: " << Json(messages);
+  for (const auto& line : run.Events("message")) {
+    EXPECT_FALSE(line.at("text") == "" || line.at("title") == "") << "a text is missing: " << line;
+  }
   if (mayRefuse) return;
   for (const auto& refused : run.Events("refused")) ADD_FAILURE() << refused;
+}
+
+struct Played {
+  Outcome Came;
+  std::string Trace;
+};
+
+/// Makes the call with the files of the options in a folder of its own, whose name does not show in the trace.
+Played RunIn(ScriptedCall call, const PlayOptions& options) {
+  const TemporaryFolder folder;
+  call.Platform = PlatformFor(options, folder);
+  std::ostringstream trace;
+  Played played{Run(std::move(call), trace), trace.str()};
+  const auto path = folder.Path().string();
+  for (auto at = played.Trace.find(path); at != std::string::npos; at = played.Trace.find(path, at)) {
+    played.Trace.replace(at, path.size(), "FOLDER");
+  }
+  return played;
+}
+
+DialogRun Told(Played played, const std::vector<Parameter>& parameters, std::ptrdiff_t answers,
+               const PlayOptions& options) {
+  DialogRun run{ReadLines(played.Trace), played.Came.Result, played.Came.Raised, {}};
+  for (std::size_t i = 0; i < parameters.size(); ++i) {
+    run.Arguments[parameters[i].Name] = std::move(played.Came.Arguments[i]);
+  }
+  Check(run, answers, options.MayRefuse);
+  return run;
 }
 
 const Json& Nth(const std::vector<Json>& lines, std::optional<std::size_t> number) {
@@ -115,17 +147,22 @@ DialogRun Play(std::string_view publicClass, const std::vector<std::string>& arg
     return std::holds_alternative<actions::Answer>(action.Do);
   });
 
-  const TemporaryFolder folder;
-  call.Platform = PlatformFor(options, folder);
-  std::ostringstream trace;
-  auto outcome = Run(std::move(call), trace);
-
-  DialogRun run{ReadLines(trace.str()), outcome.Result, outcome.Raised, {}};
-  for (std::size_t i = 0; i < parameters.size(); ++i) {
-    run.Arguments[parameters[i].Name] = std::move(outcome.Arguments[i]);
+  if (auto* windows = WindowsOfTests()) {
+    auto inWindows = call;
+    inWindows.Windows = windows;
+    // What the call stores is not there for the second one.
+    const TemporaryFolder drives;
+    auto copied = options;
+    if (options.Drives && std::filesystem::exists(*options.Drives)) {
+      std::filesystem::copy(*options.Drives, drives.Path(), std::filesystem::copy_options::recursive);
+    }
+    if (options.Drives) copied.Drives = drives.Path();
+    const auto seen = RunIn(std::move(inWindows), copied);
+    auto played = RunIn(std::move(call), options);
+    EXPECT_EQ(seen.Trace, played.Trace) << "in windows, and without";
+    return Told(std::move(played), parameters, answers, options);
   }
-  Check(run, answers, options.MayRefuse);
-  return run;
+  return Told(RunIn(std::move(call), options), parameters, answers, options);
 }
 
 }  // namespace orlin::testing

@@ -4,7 +4,6 @@
 #include "OrlinCustomDialogs/verification.h"
 
 #include "frame/modGeneral.h"
-#include "support/dialog_test.h"
 #include "verification/broken_catalogue.h"
 #include "verification/texts.h"
 
@@ -37,27 +36,25 @@ std::vector<Kind> AllKinds() {
   const auto yes = Text(10697);
   const auto no = Text(10707);
   const std::string byFives = " (Increments of 5 only)";
-  return {
-      {29, "10", {Text(10686), "1", "10", "45", "255" + byFives, "60"}, "60"},
-      {27, "\"2\"", {Text(10687), "1", "2", "6", "90", "6"}, "6"},
-      {7, "5", {Text(10688), "N/A", "5", "3", "3", "3"}, "3"},
-      {37, "7", {Text(10689), "1", "7", "1", "128 A,B,C", "A"}, "253"},
-      {22, "3", {Text(10690), "N/A", "3", "30", "240" + byFives, "30"}, "30"},
-      {54, "9", {Text(10691), "N/A", "9", "15", "45", "30"}, "30"},
-      {53, "9", {Text(10692), "N/A", "9", "1", "2", "1"}, "1"},
-      {65, "0", {Text(10693), "1", no, yes, yes, yes}, "1"},
-      {66, "0", {Text(10694), "1", no, yes, yes, yes}, "1"},
-      {52, "0", {Text(10695), "N/A", Text(10712), "3", "6", "4"}, "4"},
-      {55, "0", {Text(10696), "N/A", no, yes, yes, yes}, "1"},
-      {17, "1", {Text(10739), "N/A", "E", "-", "-", "-"}, "0"},
-      {19, "\"2\"", {Text(10740), "N/A", "P", "-", "-", "-"}, "0"},
-      {30, "0", {Text(10741), "N/A", no, yes, yes, yes}, "1"},
-      {10, "1", {Text(10743), "1", yes, no, no, no}, "0"},
-      {8, "1", {Text(10742), "1", yes, no, no, no}, "0"},
-      {17, "\"x\"", {Text(10739), "N/A", "x", "-", "-", "-"}, "0"},
-      {99, "5", {"", "", "", "", "", ""}, ""},  // of no kind: the row stays blank
-      {54, "empty", {Text(10691), "N/A", "", "15", "45", "30"}, "30"},
-  };
+  return {{29, "10", {Text(10686), "1", "10", "45", "255" + byFives, "60"}, "60"},
+          {27, "\"2\"", {Text(10687), "1", "2", "6", "90", "6"}, "6"},
+          {7, "5", {Text(10688), "N/A", "5", "3", "3", "3"}, "3"},
+          {37, "7", {Text(10689), "1", "7", "1", "128 A,B,C", "A"}, "253"},
+          {22, "3", {Text(10690), "N/A", "3", "30", "240" + byFives, "30"}, "30"},
+          {54, "9", {Text(10691), "N/A", "9", "15", "45", "30"}, "30"},
+          {53, "9", {Text(10692), "N/A", "9", "1", "2", "1"}, "1"},
+          {65, "0", {Text(10693), "1", no, yes, yes, yes}, "1"},
+          {66, "0", {Text(10694), "1", no, yes, yes, yes}, "1"},
+          {52, "0", {Text(10695), "N/A", Text(10712), "3", "6", "4"}, "4"},
+          {55, "0", {Text(10696), "N/A", no, yes, yes, yes}, "1"},
+          {17, "1", {Text(10739), "N/A", "E", "-", "-", "-"}, "0"},
+          {19, "\"2\"", {Text(10740), "N/A", "P", "-", "-", "-"}, "0"},
+          {30, "0", {Text(10741), "N/A", no, yes, yes, yes}, "1"},
+          {10, "1", {Text(10743), "1", yes, no, no, no}, "0"},
+          {8, "1", {Text(10742), "1", yes, no, no, no}, "0"},
+          {17, "\"x\"", {Text(10739), "N/A", "x", "-", "-", "-"}, "0"},
+          {99, "5", {"", "", "", "", "", ""}, ""},  // of no kind: the row stays blank
+          {54, "empty", {Text(10691), "N/A", "", "15", "45", "30"}, "30"}};
 }
 
 TEST(SiaReview, ShowsAndStoresEveryKindOfParameter) {
@@ -83,18 +80,16 @@ TEST(SiaReview, ShowsAndStoresEveryKindOfParameter) {
                                    {"btnAcceptChanges", 10680}}) {
     EXPECT_EQ(run.Control(name).at("caption"), Text(text));
   }
-  EXPECT_EQ(run.Fields("message", "text"), std::vector<Json>{Text(10700)});
-  EXPECT_EQ(run.Fields("message", "title"), std::vector<Json>{Text(10699)});
+  EXPECT_EQ(run.Fields("message", "text"), Texts({10700}));
+  EXPECT_EQ(run.Fields("message", "title"), Texts({10699}));
   EXPECT_EQ(run.Result, 2);
   EXPECT_EQ(run.Argument("vValue"), Array(stored));
 }
 
 TEST(SiaReview, ItemNumberTellsTheAreaOrPoint) {
-  const struct {
-    int Item;
-    const char* Area;
-  } cases[] = {{129, "2"}, {929, "10"}, {127, "2"}, {137, "2"},   {122, "1"},   {222, "2"},  {165, "2"},
-               {166, "2"}, {110, "2"},  {108, "2"}, {107, "N/A"}, {154, "N/A"}, {152, "N/A"}};
+  const std::vector<std::pair<int, const char*>> cases = {
+      {129, "2"}, {929, "10"}, {127, "2"}, {137, "2"},   {122, "1"},   {222, "2"},  {165, "2"},
+      {166, "2"}, {110, "2"},  {108, "2"}, {107, "N/A"}, {154, "N/A"}, {152, "N/A"}};
   for (const auto& [item, area] : cases) {
     EXPECT_EQ(RowsOf("[" + std::to_string(item) + "]", "[1]")[0][1], area) << item;
   }
@@ -133,8 +128,7 @@ TEST(SiaReview, DesiredValueHasToComply) {
       {52, "7", 10708, "4"},    {37, "b", 0, "B"},       {37, "C", 0, "C"},          {37, "AB", 1151, "A"},
       {37, "1a", 1151, "A"},    {37, "", 1151, "A"},     {37, "d2", 0, "2", 49, 1},  {37, "128", 0, "128"},
       {37, "129", 10708, "A"},  {37, "0", 10708, "A"},   {37, "24", 0, "24", 51},    {37, "25", 10708, "A", 51},
-      {37, "1", 10708, "A", 1}, {37, "c", 0, "C", 1},
-  };
+      {37, "1", 10708, "A", 1}, {37, "c", 0, "C", 1}};
   for (const auto& row : cases) {
     SCOPED_TRACE(std::to_string(row.Item) + " " + row.Typed);
     const std::string answer = row.Message == 0 ? "" : "answer 1\n";
@@ -142,9 +136,9 @@ TEST(SiaReview, DesiredValueHasToComply) {
                             answer + "edit vsFlexArray1 1 5 \"" + row.Typed + "\"\ndump", row.PanelType);
     EXPECT_EQ(run.Control("vsFlexArray1").at("cells")[1][5], row.Left);
     EXPECT_EQ(run.Events("beep").size(), row.Beeps);
-    if (row.Message == 0) continue;
-    EXPECT_EQ(run.Fields("message", "text"), std::vector<Json>{Text(row.Message)});
-    EXPECT_EQ(run.Fields("message", "title"), std::vector<Json>{Text(row.Message == 1151 ? 262 : 10709)});
+    EXPECT_EQ(run.Fields("message", "text"), Texts({row.Message}));
+    const int title = row.Message == 1151 ? 262 : row.Message == 10708 ? 10709 : 0;
+    EXPECT_EQ(run.Fields("message", "title"), Texts({title}));
   }
 }
 
@@ -153,8 +147,8 @@ TEST(SiaReview, ValueThatEqualsTheMaximumCannotBeEdited) {
     const auto run =
         Review("[" + std::to_string(item) + "]", "[1]",
                "answer 1\ndoubleclick vsFlexArray1\ndump\ntype vsFlexArray1 \"1\"", 49, {.MayRefuse = true});
-    EXPECT_EQ(run.Fields("message", "text"), std::vector<Json>{Text(10710)}) << item;
-    EXPECT_EQ(run.Fields("message", "title"), std::vector<Json>{Text(10711)});
+    EXPECT_EQ(run.Fields("message", "text"), Texts({10710})) << item;
+    EXPECT_EQ(run.Fields("message", "title"), Texts({10711}));
     EXPECT_EQ(run.Control("vsFlexArray1").at("editing"), false);
   }
   // Also one that the operator has set there; other rows can still be edited.
@@ -186,24 +180,28 @@ TEST(SiaReview, OutcomeIsTheResult) {
       {"answer 6\n" + edit + "click btnCancel", 0, {10728}, nullptr},
       {"answer 6\n" + edit + "click OptAccept\nkey - Escape", 0, {10728}, nullptr},
       {"answer 7\nanswer 1\n" + edit + "click OptAccept\nclick btnCancel\nkey - Enter", 2, {10728, 10700}, "100"},
-      {edit + "click OptAccept\nclose", 0, {}, nullptr},
-  };
+      {edit + "click OptAccept\nclose", 0, {}, nullptr}};
   for (const auto& row : cases) {
     const auto run = Review("[29,27]", "[10,2]", row.Script);
-    std::vector<Json> messages;
-    for (const int message : row.Messages) messages.emplace_back(Text(message));
     EXPECT_EQ(run.Result, row.Result) << row.Script;
-    EXPECT_EQ(run.Fields("message", "text"), messages) << row.Script;
+    EXPECT_EQ(run.Fields("message", "text"), Texts(row.Messages)) << row.Script;
     const auto expected = row.Stored != nullptr ? Array({row.Stored, "6"}) : Array({Integer(10), Integer(2)});
     EXPECT_EQ(run.Argument("vValue"), expected) << row.Script;
     EXPECT_EQ(run.Argument("vItemNo"), Array({Integer(29), Integer(27)}));
   }
 }
 
+TEST(SiaReview, LettersAreStoredAsTheirCodes) {
+  const auto run = Review("[37,137,237]", "[1,1,1]",
+                          "answer 1\nedit vsFlexArray1 2 5 \"b\"\nedit vsFlexArray1 3 5 \"C\"\n"
+                          "click OptAccept\nclick btnAcceptChanges");
+  EXPECT_EQ(run.Argument("vValue"), Array({"253", "254", "255"}));
+}
+
 TEST(SiaReview, QuestionBeforeCancelNamesTheConnection) {
   const auto run =
       Play("clsErrorMessageNova", {"vItemNo=[]", "vValue=[]", "bThroughComm=true"}, "answer 6\nclick btnCancel");
-  EXPECT_EQ(run.Fields("message", "text"), std::vector<Json>{Text(10730)});
+  EXPECT_EQ(run.Fields("message", "text"), Texts({10730}));
   EXPECT_EQ(run.Fields("message", "flags"), std::vector<Json>{4});
 }
 
@@ -227,14 +225,12 @@ TEST(SiaReview, AnyRecordAboveTheOperatorLeavesCancelAlone) {
   }
 }
 
-TEST(SiaReview, FailureBeforeTheShowGivesZeroAndTouchesNothing) {
-  const std::vector<Strings> cases = {
-      {"vItemNo=[29]", "vValue=[1,2]"},
-      {"vItemNo=29", "vValue=[1]"},
-      {"vItemNo=[29]", "vValue=1"},
-      {"vItemNo=[\"x\"]", "vValue=[1]"},
-      {"vItemNo=[]", "vValue=[]", "SecurityLevels=5"},
-  };
+TEST(SiaReview, FailureBeforeTheShowGivesZero) {
+  const std::vector<Strings> cases = {{"vItemNo=[29]", "vValue=[1,2]"},
+                                      {"vItemNo=29", "vValue=[1]"},
+                                      {"vItemNo=[29]", "vValue=1"},
+                                      {"vItemNo=[\"x\"]", "vValue=[1]"},
+                                      {"vItemNo=[]", "vValue=[]", "SecurityLevels=5"}};
   for (const auto& arguments : cases) {
     const auto run = Play("clsErrorMessageNova", arguments, "click OptAccept\nclick btnAcceptChanges");
     EXPECT_EQ(run.Result, 0) << arguments[0];

@@ -55,11 +55,13 @@ TEST(BirchZone, EveryCombinationPassesAndComesBackAsIntegers) {
 }
 
 TEST(BirchZone, ChangeOfTypeLeavesTheOtherListsAlone) {
-  const auto run = Zone({"vType=0", "vOption=3", "vTroubleOn=2"}).Play("select cmbType 9\nselect cmbType 0\ndump");
+  const auto run = Zone({"vType=0", "vOption=3", "vTroubleOn=2"}, {"AuthorityLevel=2,2", "Trouble On=3,2"})
+                       .Play("select cmbType 9\nselect cmbType 0\ndump");
   for (const auto& [list, last] : {std::pair{"cmbOption", 3}, {"cmbTroubleOn", 2}}) {
     EXPECT_EQ(run.Control(list).at("listIndex"), last);
     EXPECT_EQ(run.Control(list).at("list").size(), last + 1);
   }
+  EXPECT_EQ(run.Control("cmbTroubleOn").at("visible"), false) << "filling the list again would show it";
 }
 
 TEST(BirchDescription, ShowsTheDescriptionsOfTheHost) {
@@ -72,15 +74,18 @@ TEST(BirchDescription, ShowsTheDescriptionsOfTheHost) {
 }
 
 TEST(BirchDescription, NameOfATypeAnywhereInTheDescriptionAllowsVerification) {
-  const auto allows = [](const std::string& description) {
-    const auto call = Description({"vRetVal=[0,\"" + description + "\"]", "iFunction=1"});
-    return call.Play("dump").Control("ChkAlarmVerified").at("enabled");
+  const auto allows = [](const std::string& description, const std::string& verify = "0") {
+    return Description({"vRetVal=[0,\"" + description + "\"]", "iFunction=1", "iZoneAlarmVerify=" + verify})
+        .Play("dump")
+        .Control("ChkAlarmVerified")
+        .at("enabled");
   };
   for (std::int16_t type = 1723; type <= 1730; ++type) {
     EXPECT_EQ(allows("x" + Text(type) + "y"), true) << Text(type);
     EXPECT_EQ(allows("x" + Text(type).substr(1)), false) << Text(type) << " with another first letter";
   }
-  EXPECT_EQ(allows(Text(1732)), false);
+  for (std::int16_t type = 1731; type <= 1737; ++type) EXPECT_EQ(allows(Text(type)), false) << Text(type);
+  EXPECT_EQ(allows(Text(1723), "10"), false) << "the zone has no choice";
 }
 
 TEST(BirchDescription, VerificationComesBackAsOneOrZero) {
@@ -144,8 +149,8 @@ TEST(BirchType, StoredTypeSelectsAPositionAndThePositionIsStored) {
     int TypeOut;
   } cases[] = {{Type("5", "1", "0"), 0, "", 0},
                {Type("5", "1", "3"), 0, "", 0},
-               {Type("50", "0", "\"4\""), 4, "", 4},
-               {Type("50", "1", "4L"), 4, pick + "2\n", 2},
+               {Type("9", "1", "\"4\""), 4, "", 4},
+               {Type("128", "1", "4L"), 4, pick + "2\n", 2},
                {Type("132", "0", "1"), 1, "", 1},
                {Type("132", "1", "4"), 0, "", 0},
                {Type("140", "0", "5"), 5, "", 5},
@@ -287,10 +292,10 @@ TEST_F(BirchFaults, FailureOfTheSearchForATypeIsLoggedAndFindsNone) {
   const TemporaryFolder folder;
   Log logged;
   FaultLogOptions options;
+  options.Host = Host;
   options.File = std::make_shared<FaultFile>(folder.Path() / "faults");
   options.OnLogged = [&](const LoggedFault& fault) {
     logged = {fault.Module, fault.Procedure, std::to_string(fault.Number), fault.AdditionalText};
-    EXPECT_FALSE(fault.Shown);
   };
   Services().FaultObject = std::make_shared<BrokenLog>(options);
   Host->Operate = [](shown::Dialog& dialog) { EXPECT_FALSE(dialog.Find("ChkAlarmVerified")->Enabled()); };

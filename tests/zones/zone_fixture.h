@@ -44,9 +44,7 @@ struct Call {
   std::vector<std::string> Levels = {};
 
   [[nodiscard]] DialogRun Play(const std::string& script) const {
-    PlayOptions options;
-    options.Levels = Levels;
-    return testing::Play(Class, Arguments, script, options);
+    return testing::Play(Class, Arguments, script, {.Levels = Levels});
   }
 };
 

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QKeyEvent>
+#include <QWidget>
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "OrlinCustomDialogs/controls.h"
+
+namespace orlin {
+
+/// Runs what the operator does with mouse and keyboard, and brings the whole window up to date afterwards.
+class Desk {
+ public:
+  Desk() = default;
+  Desk(const Desk&) = delete;
+  Desk& operator=(const Desk&) = delete;
+  virtual ~Desk() = default;
+
+  virtual void Do(const std::function<Refusal()>& action) = 0;
+  /// Presses a key where the focus is.
+  void Press(const Key& key, shown::Dialog& dialog) {
+    Do([&] { return dialog.PressKey(key); });
+  }
+  /// Whether the operator's own clock runs the timers.
+  [[nodiscard]] virtual bool RunsTimers() const = 0;
+};
+
+/// Shows one control in a widget. The control holds the state: the widget never changes by itself, but is brought up
+/// to date when the control has changed.
+class ControlView {
+ public:
+  ControlView(const ControlView&) = delete;
+  ControlView& operator=(const ControlView&) = delete;
+  virtual ~ControlView() = default;
+
+  [[nodiscard]] virtual shown::Control& Control() const = 0;
+  /// Null for a timer. Owned by the window.
+  [[nodiscard]] virtual QWidget* Widget() const = 0;
+  /// What has the keyboard while the control has the focus.
+  [[nodiscard]] virtual QWidget* KeyboardWidget() const { return Widget(); }
+
+  /// Brings the widget up to date, if the control has changed since.
+  void Update();
+  /// Shows the whole state again, whatever has changed.
+  virtual void Present() = 0;
+  /// A key that is not for the dialog but for the window: the clipboard, a mark with Shift, the rows of a drop-down
+  /// list. Tells whether it was one.
+  virtual bool TakeWindowKey(const QKeyEvent& key) {
+    static_cast<void>(key);
+    return false;
+  }
+
+ protected:
+  ControlView() = default;
+
+ private:
+  bool seen_ = false;
+  std::uint32_t revision_ = 0;
+};
+
+/// The view of a control of any kind, in a widget that belongs to `parent`.
+[[nodiscard]] std::unique_ptr<ControlView> MakeView(shown::Control& control, Desk& desk, QWidget* parent);
+
+/// A view of a control of a known kind.
+template <class Shown>
+class ViewOf : public ControlView {
+ public:
+  ViewOf(Shown& control, Desk& desk) : control_(control), desk_(desk) {}
+  [[nodiscard]] shown::Control& Control() const final { return control_; }
+
+ protected:
+  [[nodiscard]] Shown& Its() const { return control_; }
+  [[nodiscard]] Desk& At() const { return desk_; }
+
+ private:
+  Shown& control_;
+  Desk& desk_;
+};
+
+}  // namespace orlin

@@ -1,0 +1,268 @@
+#include "qt/dialog_window.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFocusEvent>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QScreen>
+#include <QScrollArea>
+#include <algorithm>
+#include <utility>
+
+#include "qt/form_layout.h"
+#include "qt/keys.h"
+#include "qt/texts.h"
+#include "qt/views.h"
+
+namespace orlin {
+namespace {
+
+constexpr double kMostOfScreen = 0.9;
+
+}  // namespace
+
+DialogWindow::DialogWindow(shown::Dialog& dialog, Timers timers, QWidget* parent)
+    : QDialog(parent), dialog_(dialog), timers_(timers), plan_(PlanDialog(dialog)) {
+  setWindowModality(Qt::ApplicationModal);
+  setFocusPolicy(Qt::StrongFocus);
+  body_ = new QWidget(this);
+  MakeViews(*body_);
+  Present();
+  FormLayout layout(plan_, [this](const auto& control) { return ViewOf(control).Widget(); });
+  layout.LayOut(*this, *body_);
+  stretches_ = layout.Stretches();
+  WidenCaptions();
+}
+
+// Where a table or a list makes the window wide, captions need not be broken before its edge.
+void DialogWindow::WidenCaptions() {
+  const int edge = 4 * fontMetrics().averageCharWidth();
+  const int room = body_->sizeHint().width() - edge;
+  if (room <= CaptionWidth(*this)) return;
+  setProperty(kCaptionWidth, room);
+  for (const auto& view : views_) {
+    if (view->Control().Parent() == nullptr && view->Widget() != nullptr) view->Present();
+  }
+}
+
+void DialogWindow::MakeViews(QWidget& body) {
+  const auto inButtonRow = [this](const shown::Control* control) {
+    const auto holds = [&](const FormLine& line) { return std::find(line.begin(), line.end(), control) != line.end(); };
+    return holds(plan_.LeftButtons) || holds(plan_.RightButtons) || control == plan_.Status;
+  };
+  for (auto* control : dialog_.Controls()) {
+    QWidget* parent = inButtonRow(control) ? this : &body;
+    // A frame may be declared behind what stands in it.
+    if (control->Parent() != nullptr) {
+      const auto* frame = control->Parent();
+      const auto made =
+          std::find_if(views_.begin(), views_.end(), [&](const auto& view) { return &view->Control() == frame; });
+      if (made != views_.end()) parent = (*made)->Widget();
+    }
+    views_.push_back(MakeView(*control, *this, parent));
+    Watch(*views_.back());
+  }
+  for (const auto& [field, label] : plan_.Labels) {
+    dynamic_cast<QLabel&>(*ViewOf(*label).Widget()).setBuddy(ViewOf(*field).Widget());
+  }
+}
+
+void DialogWindow::Watch(ControlView& view) {
+  auto* widget = view.Widget();
+  if (widget == nullptr || !view.Control().TakesFocus()) return;
+  widget->installEventFilter(this);
+  for (auto* field : widget->findChildren<QLineEdit*>()) field->installEventFilter(this);
+}
+
+ControlView& DialogWindow::ViewOf(const shown::Control& control) const {
+  return **std::find_if(views_.begin(), views_.end(), [&](const auto& view) { return &view->Control() == &control; });
+}
+
+ControlView* DialogWindow::WatchedView(const QObject* watched) const {
+  const auto found = std::find_if(views_.begin(), views_.end(), [&](const auto& view) {
+    const auto* widget = view->Widget();
+    return widget != nullptr && (widget == watched || view->KeyboardWidget() == watched);
+  });
+  return found == views_.end() ? nullptr : found->get();
+}
+
+// ---------------------------------------------------------------------------------------------- showing
+
+void DialogWindow::Open() {
+  Do([this]() -> Refusal {
+    dialog_.Activate();
+    return {};
+  });
+  if (!dialog_.IsShown() || thrown_) return;
+  Fit();
+  show();
+}
+
+void DialogWindow::Work() {
+  if (dialog_.IsShown() && !thrown_) loop_.exec();
+  hide();
+  Rethrow();
+}
+
+void DialogWindow::Rethrow() {
+  if (thrown_) std::rethrow_exception(std::exchange(thrown_, nullptr));
+}
+
+void DialogWindow::Do(const std::function<Refusal()>& action) {
+  // A timer may be due while a message is shown; it then waits for the next time.
+  if (busy_ || !dialog_.IsShown()) return;
+  busy_ = true;
+  try {
+    auto refusal = action();
+    if (!refusal_) refusal_ = std::move(refusal);
+  } catch (...) {
+    // Nothing is thrown through the event loop of Qt.
+    thrown_ = std::current_exception();
+  }
+  busy_ = false;
+  Present();
+  if (!dialog_.IsShown() || thrown_) loop_.quit();
+}
+
+void DialogWindow::Present() {
+  if (presenting_) return;
+  presenting_ = true;
+  if (revision_ != dialog_.Revision()) {
+    revision_ = dialog_.Revision();
+    setWindowTitle(Shown(dialog_.Caption()));
+  }
+  for (const auto& view : views_) view->Update();
+  PresentNames();
+  if (layout() != nullptr) {
+    PresentFocus();
+    if (isVisible()) Fit();
+  }
+  presenting_ = false;
+}
+
+void DialogWindow::PresentFocus() {
+  auto* focused = dialog_.FocusedControl();
+  auto* wanted =
+      focused != nullptr && focused->WithinReach() ? ViewOf(*focused).KeyboardWidget() : static_cast<QWidget*>(this);
+  if (wanted == keyboard_ && wanted->hasFocus()) return;
+  const bool another = std::exchange(keyboard_, wanted) != wanted;
+  wanted->setFocus(Qt::OtherFocusReason);
+  // A field that is left forgets its mark.
+  if (another && wanted != this) ViewOf(*focused).Present();
+}
+
+// What a screen reader says for a field: its label, else the frame that it stands in, else the dialog.
+void DialogWindow::PresentNames() {
+  for (const auto& view : views_) {
+    const auto& control = view->Control();
+    auto* widget = view->Widget();
+    if (widget == nullptr || !control.TakesFocus() || !control.Caption().empty()) continue;
+    const auto label = plan_.Labels.find(&control);
+    const auto& source = label != plan_.Labels.end() ? label->second->Caption()
+                         : control.Parent() != nullptr && !control.Parent()->Caption().empty()
+                             ? control.Parent()->Caption()
+                             : dialog_.Caption();
+    const auto name = SpokenCaption(source);
+    if (widget->accessibleName() == name) continue;
+    widget->setAccessibleName(name);
+    for (auto* field : widget->findChildren<QLineEdit*>()) field->setAccessibleName(name);
+  }
+}
+
+void DialogWindow::Fit() {
+  // From the inside out, now instead of by and by.
+  const auto inside = findChildren<QWidget*>();
+  for (auto widget = inside.rbegin(); widget != inside.rend(); ++widget) {
+    if ((*widget)->layout() != nullptr) (*widget)->layout()->activate();
+  }
+  layout()->activate();
+  const auto most = screen()->availableGeometry().size() * kMostOfScreen;
+  const auto hint = sizeHint();
+  if ((hint.width() > most.width() || hint.height() > most.height()) && qobject_cast<QScrollArea*>(body_) == nullptr) {
+    // Too large for the screen: the form scrolls, the buttons stay.
+    auto* area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    delete layout()->replaceWidget(body_, area);
+    area->setWidget(body_);
+    area->setMinimumWidth(std::min(hint.width(), most.width() - 40));
+    body_ = area;
+    layout()->activate();
+    resize(hint.boundedTo(most));
+    return;
+  }
+  if (qobject_cast<QScrollArea*>(body_) != nullptr) return;
+  if (!stretches_) {
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    return;
+  }
+  // The operator's own size stays, unless something new needs more.
+  const bool own = fitted_.isValid() && size() != fitted_;
+  resize(own ? size().expandedTo(hint) : hint);
+  fitted_ = size();
+}
+
+// ---------------------------------------------------------------------------------------------- the operator
+
+QWidget& DialogWindow::KeyTarget() {
+  auto* target = focusWidget();
+  return target != nullptr ? *target : *this;
+}
+
+bool DialogWindow::event(QEvent* event) {
+  // Every key is the dialog's own, also those that Qt would take for access keys of its widgets.
+  if (event->type() == QEvent::ShortcutOverride) {
+    event->accept();
+    return true;
+  }
+  return QDialog::event(event);
+}
+
+bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::ShortcutOverride:
+      event->accept();
+      return true;
+    case QEvent::KeyPress:
+      TakeKey(WatchedView(watched), dynamic_cast<const QKeyEvent&>(*event));
+      return true;
+    case QEvent::KeyRelease:
+      return true;
+    case QEvent::FocusIn: {
+      // Assistive tools set the focus too; what the window itself sets comes from the dialog.
+      const auto reason = dynamic_cast<const QFocusEvent&>(*event).reason();
+      auto* view = WatchedView(watched);
+      const bool meant = reason == Qt::OtherFocusReason || reason == Qt::TabFocusReason;
+      if (!presenting_ && meant && view != nullptr && !view->Control().HasFocus()) {
+        Do([&] { return view->Control().Focus(); });
+      }
+      return false;
+    }
+    default:
+      return false;
+  }
+}
+
+void DialogWindow::keyPressEvent(QKeyEvent* event) { TakeKey(nullptr, *event); }
+
+void DialogWindow::TakeKey(ControlView* view, const QKeyEvent& key) {
+  if (view != nullptr && view->TakeWindowKey(key)) return;
+  for (const auto& pressed : KeysOf(key)) Press(pressed, dialog_);
+}
+
+void DialogWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  CloseBox();
+}
+
+void DialogWindow::CloseBox() {
+  Do([this]() -> Refusal {
+    dialog_.Close();
+    return {};
+  });
+}
+
+}  // namespace orlin

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QDialog>
+#include <QEventLoop>
+#include <exception>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "OrlinCustomDialogs/controls.h"
+
+#include "qt/control_view.h"
+#include "qt/form_plan.h"
+
+namespace orlin {
+
+/// A dialog of the library in a window. Everything that the operator does goes to the controls; after it, and
+/// before each message, the widgets are brought up to date.
+class DialogWindow final : public QDialog, public Desk {
+ public:
+  enum class Timers { Run, Stand };
+
+  /// The dialog outlives the window.
+  DialogWindow(shown::Dialog& dialog, Timers timers, QWidget* parent);
+
+  /// Activates the dialog and shows the window.
+  void Open();
+  /// Lets the operator work until the dialog is no longer shown. Throws on what a host call threw in a handler.
+  void Work();
+
+  void Do(const std::function<Refusal()>& action) override;
+  [[nodiscard]] bool RunsTimers() const override { return timers_ == Timers::Run; }
+
+  /// Brings all widgets up to date.
+  void Present();
+
+  [[nodiscard]] ControlView& ViewOf(const shown::Control& control) const;
+  /// What has the keyboard.
+  [[nodiscard]] QWidget& KeyTarget();
+  /// The first thing that could not be done since the last call.
+  [[nodiscard]] Refusal TakeRefusal() { return std::exchange(refusal_, {}); }
+  /// Throws what a host call threw in a handler.
+  void Rethrow();
+
+ protected:
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void reject() override { CloseBox(); }
+
+ private:
+  void MakeViews(QWidget& body);
+  void WidenCaptions();
+  void Watch(ControlView& view);
+  [[nodiscard]] ControlView* WatchedView(const QObject* watched) const;
+  void TakeKey(ControlView* view, const QKeyEvent& key);
+  void PresentFocus();
+  void PresentNames();
+  void Fit();
+  void CloseBox();
+
+  shown::Dialog& dialog_;
+  Timers timers_;
+  DialogPlan plan_;
+  std::vector<std::unique_ptr<ControlView>> views_;
+  QWidget* body_ = nullptr;
+  QWidget* keyboard_ = nullptr;
+  std::optional<std::uint32_t> revision_;
+  bool stretches_ = false;
+  bool presenting_ = false;
+  bool busy_ = false;
+  QSize fitted_;
+  Refusal refusal_;
+  std::exception_ptr thrown_;
+  QEventLoop loop_;
+};
+
+}  // namespace orlin

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QWidget>
+#include <functional>
+
+#include "qt/form_plan.h"
+
+namespace orlin {
+
+/// The widget that shows a control.
+using WidgetOf = std::function<QWidget*(const shown::Control&)>;
+
+/// Lays out the controls of one container: labels in one column, fields in another, everything else across both.
+class FormLayout {
+ public:
+  FormLayout(const DialogPlan& plan, WidgetOf widgetOf) : plan_(plan), widgetOf_(std::move(widgetOf)) {}
+
+  /// The whole window: the form, the row of buttons, the status line.
+  void LayOut(QWidget& window, QWidget& body);
+
+  /// Whether a window made larger has something to show in it.
+  [[nodiscard]] bool Stretches() const noexcept { return stretches_; }
+
+ private:
+  void Fill(QWidget& container, const FormPlan& plan);
+  void AddRow(QGridLayout& grid, const FormRow& row);
+  void AddField(QGridLayout& grid, const FormRow& row);
+  void AddTall(QGridLayout& grid, const std::vector<const FormRow*>& columns);
+  [[nodiscard]] QLayout* Column(const FormRow& row, int spacing);
+  void AddLine(QBoxLayout& to, const FormLine& line, int stretch);
+  [[nodiscard]] QLayout* Line(const FormLine& line, bool fills);
+  void AddMarks(QGridLayout& grid, const std::vector<const FormRow*>& marks);
+  void AlignFrames();
+
+  const DialogPlan& plan_;
+  WidgetOf widgetOf_;
+  bool stretches_ = false;
+  std::vector<QGridLayout*> frameGrids_;
+};
+
+}  // namespace orlin

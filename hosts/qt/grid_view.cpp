@@ -1,0 +1,265 @@
+#include <QAbstractTableModel>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QTableView>
+#include <algorithm>
+#include <limits>
+
+#include "qt/colours.h"
+#include "qt/keys.h"
+#include "qt/passive_edit.h"
+#include "qt/row_model.h"
+#include "qt/views.h"
+
+namespace orlin {
+namespace {
+
+constexpr int kMostRows = 12;
+constexpr int kFewestRows = 4;
+
+QFont Bold(QFont font) {
+  font.setBold(true);
+  return font;
+}
+
+/// The cells of a grid as they were when the window was last brought up to date. The first fixed row is the title row.
+class CellModel final : public QAbstractTableModel {
+ public:
+  CellModel(const shown::Grid& grid, QWidget& view) : QAbstractTableModel(&view), grid_(grid), view_(view) {}
+
+  void Take() {
+    const bool reshaped = static_cast<int>(cells_.size()) != grid_.Rows() || cols_ != grid_.Cols();
+    if (reshaped) beginResetModel();
+    cols_ = grid_.Cols();
+    cells_.resize(static_cast<std::size_t>(grid_.Rows()));
+    for (int row = 0; row < grid_.Rows(); ++row) {
+      auto& cells = cells_[static_cast<std::size_t>(row)];
+      cells.resize(static_cast<std::size_t>(cols_));
+      for (int col = 0; col < cols_; ++col) cells[static_cast<std::size_t>(col)] = grid_.CellAt(row, col);
+    }
+    if (reshaped) {
+      endResetModel();
+    } else if (rowCount() > 0 && cols_ > 0) {
+      emit dataChanged(index(0, 0), index(rowCount() - 1, cols_ - 1));
+    }
+  }
+
+  [[nodiscard]] int TitleRows() const { return std::min(grid_.FixedRows(), 1); }
+
+  /// The width of a column's widest text.
+  [[nodiscard]] int TextWidth(int col) const {
+    std::vector<const std::string*> texts;
+    texts.reserve(cells_.size());
+    for (const auto& cells : cells_) texts.push_back(&cells[static_cast<std::size_t>(col)].Text);
+    return WidthOfLongest(texts, QFontMetrics(Bold(view_.font())));
+  }
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override {
+    return parent.isValid() ? 0 : std::max(static_cast<int>(cells_.size()) - TitleRows(), 0);
+  }
+  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : cols_; }
+
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
+    const int row = index.row() + TitleRows();
+    const auto& cell = cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(index.column())];
+    const bool fixed = index.column() < grid_.FixedCols() || row < grid_.FixedRows();
+    const auto ground = view_.palette().color(fixed ? QPalette::Window : QPalette::Base);
+    switch (role) {
+      case Qt::DisplayRole:
+        return Shown(cell.Text);
+      case Qt::FontRole:
+        return cell.Bold ? QVariant(Bold(view_.font())) : QVariant();
+      case Qt::BackgroundRole:
+        return ground;
+      case Qt::ForegroundRole:
+        return cell.Color == 0 ? QVariant() : QVariant(Readable(ColourOf(cell.Color, view_.palette()), ground));
+      case Qt::TextAlignmentRole:
+        return static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter);
+      default:
+        return {};
+    }
+  }
+
+  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+    if (orientation != Qt::Horizontal || cells_.empty() || section >= cols_) return {};
+    if (role == Qt::DisplayRole) return Shown(cells_.front()[static_cast<std::size_t>(section)].Text);
+    if (role == Qt::TextAlignmentRole) return static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter);
+    return {};
+  }
+
+ private:
+  const shown::Grid& grid_;
+  QWidget& view_;
+  std::vector<std::vector<shown::Grid::Cell>> cells_;
+  int cols_ = 0;
+};
+
+/// Draws the current cell with a border instead of another ground, on which the colours of texts could not be read.
+class CellDelegate final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QStyledItemDelegate::paint(painter, option, index);
+    if (!option.state.testFlag(QStyle::State_Selected)) return;
+    constexpr int width = 2;
+    painter->save();
+    painter->setPen(
+        QPen(option.palette.color(QPalette::Highlight), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter->drawRect(option.rect.adjusted(width / 2, width / 2, -width / 2, -width / 2));
+    painter->restore();
+  }
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->state &= ~(QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_MouseOver);
+  }
+};
+
+class CellTable final : public QTableView {
+ public:
+  CellTable(shown::Grid& grid, Desk& desk, QWidget* parent) : QTableView(parent), grid_(grid), desk_(desk) {
+    model_ = new CellModel(grid, *this);
+    setModel(model_);
+    setItemDelegate(new CellDelegate(this));
+    setFocusPolicy(Qt::TabFocus);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(QLineEdit().sizeHint().height());
+    horizontalHeader()->setVisible(model_->TitleRows() > 0);
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setStretchLastSection(true);
+    AddEditor();
+  }
+
+  [[nodiscard]] QWidget* KeyboardWidget() {
+    if (grid_.Editing()) return editor_;
+    return this;
+  }
+  bool TakeEditingKey(const QKeyEvent& key) { return grid_.Editing() && editor_->TakeEditingKey(key); }
+
+  void Present() {
+    model_->Take();
+    FitColumns();
+    const auto current = model_->index(grid_.Row() - model_->TitleRows(), grid_.Col());
+    if (current != currentIndex()) {
+      selectionModel()->setCurrentIndex(current, QItemSelectionModel::ClearAndSelect);
+      if (current.isValid()) scrollTo(current);
+    }
+    if (grid_.Editing()) {
+      editor_->ShowState({grid_.EditorText(), grid_.EditorSelStart(), grid_.EditorSelLength()});
+    }
+    PlaceEditor();
+    editor_->setVisible(grid_.Editing());
+  }
+
+  [[nodiscard]] QSize sizeHint() const override { return HintFor(kMostRows); }
+  [[nodiscard]] QSize minimumSizeHint() const override { return HintFor(kFewestRows); }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    if (event->button() != Qt::LeftButton) return;
+    const auto cell = indexAt(event->position().toPoint());
+    desk_.Do([&]() -> Refusal {
+      const int row = cell.row() + model_->TitleRows();
+      const bool canBeCurrent = cell.isValid() && row >= grid_.FixedRows() && cell.column() >= grid_.FixedCols();
+      return canBeCurrent ? grid_.MakeCurrent(row, cell.column()) : grid_.Focus();
+    });
+  }
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    mousePressEvent(event);
+    desk_.Do([&] { return grid_.DoubleClick(); });
+  }
+  void mouseMoveEvent(QMouseEvent*) override {}
+  void mouseReleaseEvent(QMouseEvent*) override {}
+  void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+  void inputMethodEvent(QInputMethodEvent* event) override { event->accept(); }
+  void scrollContentsBy(int dx, int dy) override {
+    QTableView::scrollContentsBy(dx, dy);
+    PlaceEditor();
+  }
+  void resizeEvent(QResizeEvent* event) override {
+    QTableView::resizeEvent(event);
+    PlaceEditor();
+  }
+
+ private:
+  void AddEditor() {
+    editor_ = new PassiveLine(viewport());
+    editor_->hide();
+    editor_->Actions.SetCaret = [this](int start, int length) {
+      desk_.Do([&] { return grid_.SetEditorCaret(start, length); });
+    };
+    editor_->Actions.Paste = [this](const QString& text) {
+      desk_.Do([&] { return grid_.PasteIntoEditor(Given(text)); });
+    };
+    editor_->Actions.Type = [this](const QString& text) {
+      for (const auto& key : KeysTyping(text)) desk_.Press(key, grid_.Form());
+    };
+    editor_->Actions.Delete = [this] { desk_.Press(Key::Named(keys::Delete), grid_.Form()); };
+  }
+
+  void PlaceEditor() {
+    if (grid_.Editing()) editor_->setGeometry(visualRect(currentIndex()));
+  }
+
+  // Wide enough for every text; where there is room, in the proportions that the dialog gives.
+  void FitColumns() {
+    const int around =
+        2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + fontMetrics().averageCharWidth();
+    widths_.assign(static_cast<std::size_t>(grid_.Cols()), 0);
+    for (int col = 0; col < grid_.Cols(); ++col) {
+      const int given = grid_.ColWidth(col) * logicalDpiX() / 1440;
+      const auto header = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->sectionSizeHint(col);
+      auto& width = widths_[static_cast<std::size_t>(col)];
+      width = std::max({given, header, model_->TextWidth(col) + around});
+      if (columnWidth(col) != width) setColumnWidth(col, width);
+    }
+  }
+
+  [[nodiscard]] QSize HintFor(int mostRows) const {
+    int width = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    for (const int column : widths_) width += column;
+    const int titles = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->sizeHint().height();
+    const int rows = std::clamp(model_->rowCount(), kFewestRows, mostRows);
+    return {width, titles + rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth()};
+  }
+
+  shown::Grid& grid_;
+  Desk& desk_;
+  CellModel* model_ = nullptr;
+  PassiveLine* editor_ = nullptr;
+  std::vector<int> widths_;
+};
+
+class GridView final : public ViewOf<shown::Grid> {
+ public:
+  GridView(shown::Grid& grid, Desk& desk, QWidget* parent)
+      : ViewOf(grid, desk), table_(new CellTable(grid, desk, parent)) {}
+  [[nodiscard]] QWidget* Widget() const override { return table_; }
+  [[nodiscard]] QWidget* KeyboardWidget() const override { return table_->KeyboardWidget(); }
+  bool TakeWindowKey(const QKeyEvent& key) override { return table_->TakeEditingKey(key); }
+  void Present() override { table_->Present(); }
+
+ private:
+  CellTable* table_;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeGridView(shown::Grid& grid, Desk& desk, QWidget* parent) {
+  return std::make_unique<GridView>(grid, desk, parent);
+}
+
+}  // namespace orlin

@@ -1,0 +1,205 @@
+#include <QComboBox>
+#include <QListView>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QStyle>
+#include <algorithm>
+
+#include "qt/passive_edit.h"
+#include "qt/row_model.h"
+#include "qt/text_actions.h"
+#include "qt/views.h"
+
+namespace orlin {
+namespace {
+
+constexpr int kRowsOfDropDown = 20;
+constexpr int kFewestRows = 4;
+constexpr int kMostRows = 10;
+
+// ---------------------------------------------------------------------------------------------- combo boxes
+
+/// A combo box that leaves the choice of a row to its control, and is as wide as its longest row.
+class DropDown final : public QComboBox {
+ public:
+  DropDown(QWidget* parent, std::function<void()> onPress) : QComboBox(parent), onPress_(std::move(onPress)) {
+    rows_ = new RowModel(this);
+    setModel(rows_);
+    setFocusPolicy(Qt::TabFocus);
+    setMaxVisibleItems(kRowsOfDropDown);
+    setInsertPolicy(QComboBox::NoInsert);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  }
+
+  [[nodiscard]] RowModel& Rows() const { return *rows_; }
+
+  [[nodiscard]] QSize sizeHint() const override {
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const auto metrics = fontMetrics();
+    const QSize content(std::max(rows_->Width(font()), metrics.averageCharWidth() * 8) + metrics.averageCharWidth(),
+                        std::max(metrics.height(), 14) + 2);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, content, this);
+  }
+  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    onPress_();
+    if (isEnabled() && isVisible()) QComboBox::mousePressEvent(event);
+  }
+  // Turning the wheel over a closed list picks no row.
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+  void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+  void inputMethodEvent(QInputMethodEvent* event) override { event->accept(); }
+
+ private:
+  std::function<void()> onPress_;
+  RowModel* rows_;
+};
+
+class ComboBoxView final : public ViewOf<shown::ComboBox> {
+ public:
+  ComboBoxView(shown::ComboBox& box, Desk& desk, QWidget* parent)
+      : ViewOf(box, desk), list_(new DropDown(parent, [this] { At().Do([this] { return Its().Focus(); }); })) {
+    if (box.HasEditField()) AddField();
+    QObject::connect(list_, &QComboBox::activated, list_,
+                     [this](int row) { At().Do([&] { return Its().PickRow(row); }), Present(); });
+  }
+  [[nodiscard]] QWidget* Widget() const override { return list_; }
+
+  bool TakeWindowKey(const QKeyEvent& key) override {
+    const bool alt = key.modifiers().testFlag(Qt::AltModifier);
+    if (key.key() == Qt::Key_F4 || (alt && (key.key() == Qt::Key_Down || key.key() == Qt::Key_Up))) {
+      list_->showPopup();
+      return true;
+    }
+    return field_ != nullptr && field_->TakeEditingKey(key);
+  }
+
+  void Present() override {
+    list_->Rows().Take(Its(), nullptr);
+    if (list_->currentIndex() != Its().ListIndex()) list_->setCurrentIndex(Its().ListIndex());
+    list_->updateGeometry();
+    if (field_ == nullptr) return;
+    field_->setReadOnly(Its().Locked());
+    field_->ShowState({Its().TextControl::Text(), Its().SelStart(), Its().SelLength()});
+  }
+
+ private:
+  void AddField() {
+    field_ = new PassiveLine(list_);
+    field_->Actions = ActionsOn(Its(), At());
+    field_->RefuseStrayText();
+    list_->setEditable(true);
+    list_->setLineEdit(field_);
+    list_->setCompleter(nullptr);
+    // Qt picks the row whose text stands in the field when the field is left.
+    QObject::disconnect(field_, &QLineEdit::editingFinished, list_, nullptr);
+    QObject::disconnect(field_, &QLineEdit::returnPressed, list_, nullptr);
+  }
+
+  DropDown* list_;
+  PassiveLine* field_ = nullptr;
+};
+
+// ---------------------------------------------------------------------------------------------- list boxes
+
+class RowsView final : public QListView {
+ public:
+  RowsView(QWidget* parent, std::function<void(int row)> onPress) : QListView(parent), onPress_(std::move(onPress)) {
+    rows_ = new RowModel(this);
+    setModel(rows_);
+    setFocusPolicy(Qt::TabFocus);
+    setUniformItemSizes(true);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+  }
+
+  [[nodiscard]] RowModel& Rows() const { return *rows_; }
+
+  [[nodiscard]] QSize sizeHint() const override { return HintFor(kMostRows); }
+  [[nodiscard]] QSize minimumSizeHint() const override { return HintFor(kFewestRows); }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    if (event->button() == Qt::LeftButton) onPress_(indexAt(event->position().toPoint()).row());
+  }
+  void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+  void mouseMoveEvent(QMouseEvent*) override {}
+  void mouseReleaseEvent(QMouseEvent*) override {}
+  void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+  void inputMethodEvent(QInputMethodEvent* event) override { event->accept(); }
+
+ private:
+  [[nodiscard]] QSize HintFor(int mostRows) const {
+    const auto metrics = fontMetrics();
+    const int checkMark = hasChecks ? style()->pixelMetric(QStyle::PM_IndicatorWidth) +
+                                          2 * style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing)
+                                    : 0;
+    const int width = std::max(rows_->Width(font()), metrics.averageCharWidth() * 12) + checkMark +
+                      4 * style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + metrics.averageCharWidth() +
+                      verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    const int rowHeight = rows_->rowCount() > 0 ? sizeHintForRow(0) : metrics.lineSpacing();
+    const int rows = std::clamp(rows_->rowCount(), kFewestRows, mostRows);
+    return {width, rowHeight * rows + 2 * frameWidth()};
+  }
+
+  std::function<void(int row)> onPress_;
+  RowModel* rows_;
+
+ public:
+  bool hasChecks = false;
+};
+
+class ListBoxView final : public ViewOf<shown::ListBox> {
+ public:
+  ListBoxView(shown::ListBox& list, Desk& desk, QWidget* parent)
+      : ViewOf(list, desk), rows_(new RowsView(parent, [this](int row) { Press(row); })) {
+    rows_->hasChecks = list.Choice() == shown::Choice::Checks;
+    rows_->setSelectionMode(list.Choice() == shown::Choice::Many ? QAbstractItemView::MultiSelection
+                                                                 : QAbstractItemView::SingleSelection);
+  }
+  [[nodiscard]] QWidget* Widget() const override { return rows_; }
+
+  void Present() override {
+    rows_->Rows().Take(Its(), rows_->hasChecks ? &Its() : nullptr);
+    rows_->updateGeometry();
+    const auto row = [&](int number) { return rows_->Rows().index(number); };
+    const auto current = row(Its().ListIndex());
+    QItemSelection chosen;
+    if (Its().Choice() == shown::Choice::Many) {
+      for (int i = 0; i < Its().ListCount(); ++i) {
+        if (Its().Selected(i)) chosen.select(row(i), row(i));
+      }
+    } else if (current.isValid()) {
+      chosen.select(current, current);
+    }
+    rows_->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    rows_->selectionModel()->select(chosen, QItemSelectionModel::ClearAndSelect);
+    if (current.isValid()) rows_->scrollTo(current);
+  }
+
+ private:
+  void Press(int row) {
+    At().Do([&]() -> Refusal {
+      if (row < 0) return Its().Focus();
+      if (Its().Choice() == shown::Choice::One) return Its().PickRow(row);
+      return Its().MarkRow(row, !Its().Selected(row));
+    });
+  }
+
+  RowsView* rows_;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeComboBoxView(shown::ComboBox& box, Desk& desk, QWidget* parent) {
+  return std::make_unique<ComboBoxView>(box, desk, parent);
+}
+
+std::unique_ptr<ControlView> MakeListBoxView(shown::ListBox& list, Desk& desk, QWidget* parent) {
+  return std::make_unique<ListBoxView>(list, desk, parent);
+}
+
+}  // namespace orlin

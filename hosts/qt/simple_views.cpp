@@ -1,0 +1,222 @@
+// The kinds that are a caption or a press: labels, frames, buttons, check boxes, options, up-downs, status lines,
+// timers.
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "OrlinCustomDialogs/keys.h"
+
+#include "qt/colours.h"
+#include "qt/texts.h"
+#include "qt/views.h"
+
+namespace orlin {
+namespace {
+
+class LabelView final : public ViewOf<shown::Label> {
+ public:
+  LabelView(shown::Label& label, Desk& desk, QWidget* parent) : ViewOf(label, desk), label_(new QLabel(parent)) {
+    label_->setTextFormat(Qt::PlainText);
+  }
+  [[nodiscard]] QWidget* Widget() const override { return label_; }
+  void Present() override {
+    // Only the label of a field shows its access key, and only there does "&&" mean "&".
+    const auto caption = label_->buddy() != nullptr ? Its().Caption() : PlainCaption(Its().Caption());
+    label_->setText(Wrapped(Shown(caption), label_->fontMetrics(), CaptionWidth(*label_)));
+    if (!Its().BackColor()) return;
+    auto palette = label_->palette();
+    auto ground = ColourOf(*Its().BackColor(), palette);
+    // A key of colours shows them as they are shown where they are used.
+    if (Its().Caption().empty()) ground = Readable(ground, palette.color(QPalette::Base));
+    palette.setColor(QPalette::Window, ground);
+    palette.setColor(QPalette::WindowText, Readable(palette.color(QPalette::WindowText), ground));
+    label_->setPalette(palette);
+    label_->setAutoFillBackground(true);
+  }
+
+ private:
+  QLabel* label_;
+};
+
+class FrameView final : public ViewOf<shown::Frame> {
+ public:
+  FrameView(shown::Frame& frame, Desk& desk, QWidget* parent) : ViewOf(frame, desk), box_(new QGroupBox(parent)) {}
+  [[nodiscard]] QWidget* Widget() const override { return box_; }
+  void Present() override {
+    box_->setTitle(Shown(Its().Caption()));
+    box_->setFlat(Its().Caption().empty());
+    box_->setAccessibleName(SpokenCaption(Its().Caption()));
+  }
+
+ private:
+  QGroupBox* box_;
+};
+
+/// A button of Qt that leaves it to the control whether it is on.
+template <class Button>
+class PassiveButton final : public Button {
+ public:
+  using Button::Button;
+
+ protected:
+  void nextCheckState() override {}
+};
+
+template <class Shown, class Button>
+class PressView : public ViewOf<Shown> {
+ public:
+  PressView(Shown& control, Desk& desk, QWidget* parent)
+      : ViewOf<Shown>(control, desk), button_(new PassiveButton<Button>(parent)) {
+    button_->setFocusPolicy(Qt::TabFocus);
+    QObject::connect(button_, &QAbstractButton::clicked, button_,
+                     [this] { this->At().Do([this] { return this->Its().Press(); }); });
+  }
+  [[nodiscard]] QWidget* Widget() const override { return button_; }
+  void Present() override {
+    const auto& caption = this->Its().Caption();
+    button_->setText(Wrapped(orlin::Shown(caption), button_->fontMetrics(), CaptionWidth(*button_)));
+    if (!caption.empty()) button_->setAccessibleName(SpokenCaption(caption));
+    if constexpr (!std::is_same_v<Shown, shown::Button>) button_->setChecked(this->Its().Value() != 0);
+  }
+
+ protected:
+  [[nodiscard]] Button& Face() const { return *button_; }
+
+ private:
+  PassiveButton<Button>* button_;
+};
+
+class ButtonView final : public PressView<shown::Button, QPushButton> {
+ public:
+  ButtonView(shown::Button& button, Desk& desk, QWidget* parent) : PressView(button, desk, parent) {
+    Face().setAutoDefault(false);
+    Face().setDefault(button.Form().DefaultButton() == &button);
+  }
+};
+
+class CheckBoxView final : public PressView<shown::CheckBox, QCheckBox> {
+ public:
+  using PressView::PressView;
+};
+
+class OptionView final : public PressView<shown::OptionButton, QRadioButton> {
+ public:
+  using PressView::PressView;
+  void Present() override {
+    // Qt lets no option be cleared; the control may be.
+    Face().setAutoExclusive(false);
+    PressView::Present();
+    Face().setAutoExclusive(true);
+  }
+};
+
+class UpDownView final : public ViewOf<shown::UpDown> {
+ public:
+  UpDownView(shown::UpDown& buttons, Desk& desk, QWidget* parent) : ViewOf(buttons, desk), pair_(new QWidget(parent)) {
+    auto* layout = new QVBoxLayout(pair_);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    const int height = QLineEdit().sizeHint().height();
+    Add(shown::UpDown::Direction::Up, Qt::UpArrow, QObject::tr("Up"), height - height / 2);
+    Add(shown::UpDown::Direction::Down, Qt::DownArrow, QObject::tr("Down"), height / 2);
+  }
+  [[nodiscard]] QWidget* Widget() const override { return pair_; }
+  void Present() override {}
+
+ private:
+  void Add(shown::UpDown::Direction direction, Qt::ArrowType arrow, const QString& name, int height) {
+    auto* button = new QToolButton(pair_);
+    button->setArrowType(arrow);
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setAutoRepeat(true);
+    button->setAccessibleName(name);
+    button->setFixedSize(height * 2, height);
+    pair_->layout()->addWidget(button);
+    QObject::connect(button, &QToolButton::clicked, pair_,
+                     [this, direction] { At().Do([&] { return Its().Step(direction); }); });
+  }
+
+  QWidget* pair_;
+};
+
+class StatusView final : public ViewOf<shown::StatusBar> {
+ public:
+  StatusView(shown::StatusBar& line, Desk& desk, QWidget* parent) : ViewOf(line, desk), line_(new QLabel(parent)) {
+    line_->setTextFormat(Qt::PlainText);
+    line_->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+  }
+  [[nodiscard]] QWidget* Widget() const override { return line_; }
+  void Present() override {
+    line_->setText(Wrapped(Shown(Its().Text()), line_->fontMetrics(), CaptionWidth(*line_)));
+    // The window does not jump while the line comes and goes.
+    line_->setMinimumSize(line_->minimumSize().expandedTo(line_->sizeHint()));
+  }
+
+ private:
+  QLabel* line_;
+};
+
+class TimerView final : public ViewOf<shown::Timer> {
+ public:
+  TimerView(shown::Timer& timer, Desk& desk, QWidget* parent) : ViewOf(timer, desk), clock_(new QTimer(parent)) {
+    QObject::connect(clock_, &QTimer::timeout, parent, [this] { At().Do([this] { return Its().Tick(); }); });
+  }
+  [[nodiscard]] QWidget* Widget() const override { return nullptr; }
+  void Present() override {
+    const bool runs = Its().Running() && At().RunsTimers();
+    if (!runs) return clock_->stop();
+    if (!clock_->isActive() || clock_->interval() != Its().Interval()) clock_->start(Its().Interval());
+  }
+
+ private:
+  QTimer* clock_;
+};
+
+}  // namespace
+
+int CaptionWidth(const QWidget& widget) {
+  const int usual = widget.fontMetrics().averageCharWidth() * 64;
+  return std::max(usual, widget.window()->property(kCaptionWidth).toInt());
+}
+
+std::unique_ptr<ControlView> MakeLabelView(shown::Label& label, Desk& desk, QWidget* parent) {
+  return std::make_unique<LabelView>(label, desk, parent);
+}
+
+std::unique_ptr<ControlView> MakeFrameView(shown::Frame& frame, Desk& desk, QWidget* parent) {
+  return std::make_unique<FrameView>(frame, desk, parent);
+}
+
+std::unique_ptr<ControlView> MakeButtonView(shown::Button& button, Desk& desk, QWidget* parent) {
+  return std::make_unique<ButtonView>(button, desk, parent);
+}
+
+std::unique_ptr<ControlView> MakeCheckBoxView(shown::CheckBox& box, Desk& desk, QWidget* parent) {
+  return std::make_unique<CheckBoxView>(box, desk, parent);
+}
+
+std::unique_ptr<ControlView> MakeOptionView(shown::OptionButton& option, Desk& desk, QWidget* parent) {
+  return std::make_unique<OptionView>(option, desk, parent);
+}
+
+std::unique_ptr<ControlView> MakeUpDownView(shown::UpDown& buttons, Desk& desk, QWidget* parent) {
+  return std::make_unique<UpDownView>(buttons, desk, parent);
+}
+
+std::unique_ptr<ControlView> MakeStatusView(shown::StatusBar& line, Desk& desk, QWidget* parent) {
+  return std::make_unique<StatusView>(line, desk, parent);
+}
+
+std::unique_ptr<ControlView> MakeTimerView(shown::Timer& timer, Desk& desk, QWidget* parent) {
+  return std::make_unique<TimerView>(timer, desk, parent);
+}
+
+}  // namespace orlin

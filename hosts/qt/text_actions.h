@@ -1,0 +1,13 @@
+#pragma once
+
+#include "OrlinCustomDialogs/controls.h"
+
+#include "qt/control_view.h"
+#include "qt/passive_edit.h"
+
+namespace orlin {
+
+/// What a field of the screen does to a text box or to the edit field of a combo box.
+[[nodiscard]] EditActions ActionsOn(shown::TextControl& box, Desk& desk);
+
+}  // namespace orlin

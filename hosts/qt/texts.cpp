@@ -1,0 +1,66 @@
+#include "qt/texts.h"
+
+#include <QStringList>
+
+#include "OrlinCustomDialogs/keys.h"
+
+#include "script/text_literal.h"
+
+namespace orlin {
+
+QString Shown(std::string_view text) {
+  if (CharactersOf(text)) return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  QString shown;
+  while (!text.empty()) {
+    // A character of UTF-8 has four bytes at most.
+    std::size_t bytes = 1;
+    while (bytes <= 4 && bytes <= text.size() && !CharactersOf(text.substr(0, bytes))) ++bytes;
+    const bool found = bytes <= 4 && bytes <= text.size();
+    shown +=
+        found ? QString::fromUtf8(text.data(), static_cast<qsizetype>(bytes)) : QString(QChar::ReplacementCharacter);
+    text.remove_prefix(found ? bytes : 1);
+  }
+  return shown;
+}
+
+std::string Given(const QString& text) { return text.toStdString(); }
+
+int UnitsBefore(const QString& text, int characters) {
+  int units = 0;
+  for (; characters > 0 && units < text.size(); --characters) units += text.at(units).isHighSurrogate() ? 2 : 1;
+  return units;
+}
+
+int CharactersBefore(const QString& text, int units) {
+  int characters = 0;
+  for (int at = 0; at < units && at < text.size(); ++characters) at += text.at(at).isHighSurrogate() ? 2 : 1;
+  return characters;
+}
+
+QString SpokenCaption(std::string_view caption) {
+  auto spoken = Shown(PlainCaption(caption)).simplified();
+  if (spoken.endsWith(u':')) spoken.chop(1);
+  return spoken;
+}
+
+QString Wrapped(const QString& text, const QFontMetrics& metrics, int width) {
+  // Most captions are short; measuring a text costs more than anything else here.
+  if (text.size() * metrics.averageCharWidth() < width / 2 || metrics.horizontalAdvance(text) <= width) return text;
+  QStringList lines;
+  for (const auto& paragraph : text.split(u'\n')) {
+    QString line;
+    for (const auto& word : paragraph.split(u' ')) {
+      const auto longer = line.isEmpty() ? word : line + u' ' + word;
+      if (!line.isEmpty() && metrics.horizontalAdvance(longer) > width) {
+        lines += line;
+        line = word;
+      } else {
+        line = longer;
+      }
+    }
+    lines += line;
+  }
+  return lines.join(u'\n');
+}
+
+}  // namespace orlin

@@ -1,0 +1,395 @@
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QScrollArea>
+#include <QTimer>
+#include <QToolButton>
+#include <QWheelEvent>
+#include <cstdlib>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "OrlinCustomDialogs/platform.h"
+
+#include "frame/dialog.h"
+#include "qt/colours.h"
+#include "qt/dialog_window.h"
+#include "qt/form_plan.h"
+#include "qt/keys.h"
+#include "qt/qt_host.h"
+
+namespace orlin::testing {
+namespace {
+
+/// Has a control of most kinds, and writes down what happens to them.
+struct Sample {
+  Dialog Form{"frmSample", "Sample", {}};
+  Label lblName{Form, "lblName", "&Name:"};
+  TextBox txtName{Form, "txtName", {.MaxLength = 4}};
+  Label lblPick{Form, "lblPick", "Pi&ck:"};
+  ComboBox cmbPick{Form, "cmbPick"};
+  ComboBox cmbEdit{Form, "cmbEdit", {.HasEditField = true}};
+  Label lblLines{Form, "lblLines", "Lines:"};
+  TextBox txtLines{Form, "txtLines", {.MultiLine = true}};
+  Frame fraMode{Form, "fraMode", "Mode"};
+  OptionButton optA{fraMode, "optA", "&A", {.Value = true}};
+  OptionButton optB{fraMode, "optB", "&B"};
+  TextBox txtHour{fraMode, "txtHour", {.Text = "7", .MaxLength = 2}};
+  UpDown udHour{fraMode, "udHour", {.Min = 0, .Max = 23, .Buddy = &txtHour}};
+  Label lblUnit{fraMode, "lblUnit", "h"};
+  CheckBox chkOn{Form, "chkOn", "&On"};
+  ListBox lstChecks{Form, "lstChecks", {.Choice = shown::Choice::Checks}};
+  Grid grdTable{Form, "grdTable", {.Rows = 4, .Cols = 2, .FixedRows = 1, .FixedCols = 1}};
+  OKButton cmdOK{Form, "OK"};
+  CancelButton cmdCancel{Form, "Cancel"};
+  Timer tmrClock{Form, "tmrClock", {.Interval = 1}};
+
+  Sample() {
+    for (const char* text : {"one", "two", "a third one that is much longer than the others"}) {
+      cmbPick.AddItem(text);
+      cmbEdit.AddItem(text);
+      lstChecks.AddItem(text);
+    }
+    // Capitals only; "!" is refused.
+    txtName.KeyPress = [this](int& key) {
+      Log.push_back("key " + std::to_string(key));
+      if (key == '!') key = 0;
+      if (key >= 'a' && key <= 'z') key -= 'a' - 'A';
+    };
+    grdTable.SetCellText(1, 1, "old");
+    grdTable.DblClick = [this] { grdTable.EditCell(); };
+    grdTable.KeyPressEdit = [](int, int, int& key) {
+      if (key == 'x') key = 0;
+    };
+    tmrClock.OnTimer = [this] { Form.Hide(); };
+  }
+
+  std::vector<std::string> Log;
+};
+
+/// Shows the sample in a window, and plays a function in front of it.
+class WindowsTest : public ::testing::Test, public DialogHost {
+ protected:
+  WindowsTest() {
+    Platform platform;
+    platform.Host = std::shared_ptr<DialogHost>(std::shared_ptr<void>(), this);
+    UsePlatform(std::move(platform));
+  }
+  ~WindowsTest() override { UsePlatform({}); }
+
+  template <class Shown, class Play>
+  void Show(Shown& dialog, Play play) {
+    play_ = [&] { play(dialog); };
+    dialog.Form.ShowModal();
+  }
+
+  [[nodiscard]] SizeInTwips Screen() const override { return {15360, 11520}; }
+  void ShowModal(shown::Dialog& dialog) override {
+    DialogWindow window(dialog, DialogWindow::Timers::Stand, nullptr);
+    Window = &window;
+    window.Open();
+    play_();
+    Window = nullptr;
+    if (dialog.IsShown()) dialog.Close();
+  }
+  int ShowMessage(const Message&) override { return answers::Ok; }
+  void Beep() override {}
+
+  template <class Widget>
+  [[nodiscard]] Widget& Of(const shown::Control& control) const {
+    return dynamic_cast<Widget&>(*Window->ViewOf(control).Widget());
+  }
+  void Press(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {}) const {
+    for (const auto type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent event(type, key, modifiers, text);
+      QApplication::sendEvent(&Window->KeyTarget(), &event);
+    }
+  }
+  void Type(const QString& text) const {
+    for (const auto letter : text) Press(letter.toUpper().unicode(), letter);
+  }
+
+  DialogWindow* Window = nullptr;
+
+ private:
+  std::function<void()> play_;
+};
+
+TEST_F(WindowsTest, NoWayIntoATextBoxGoesAroundItsKeys) {
+  Sample sample;
+  Show(sample, [this](Sample& its) {
+    auto& field = Of<QLineEdit>(its.txtName);
+    const auto expect = [&](const char* text, const char* way) {
+      EXPECT_EQ(its.txtName.Text(), text) << way;
+      EXPECT_EQ(field.text().toStdString(), text) << way;
+    };
+    Type("a!b");
+    expect("AB", "typing");
+    QApplication::clipboard()->setText("c!def");
+    Press(Qt::Key_V, {}, Qt::ControlModifier);
+    expect("ABCD", "pasting");
+    Press(Qt::Key_Z, {}, Qt::ControlModifier);
+    expect("ABCD", "undoing");
+    Press(Qt::Key_A, {}, Qt::ControlModifier);
+    QInputMethodEvent composed;
+    composed.setCommitString("x!");
+    QApplication::sendEvent(&field, &composed);
+    expect("X", "an input method");
+    QAccessible::queryAccessibleInterface(&field)->setText(QAccessible::Value, "ok!");
+    expect("OK", "an assistive tool");
+    field.setText("zz");
+    expect("ZZ", "setting the text of the widget");
+    EXPECT_FALSE(field.acceptDrops());
+    Press(Qt::Key_A, {}, Qt::ControlModifier);
+    Press(Qt::Key_X, {}, Qt::ControlModifier);
+    expect("", "cutting");
+    EXPECT_EQ(QApplication::clipboard()->text(), "ZZ");
+  });
+}
+
+TEST_F(WindowsTest, OnlyPickingChangesAList) {
+  Sample sample;
+  Show(sample, [this](Sample& its) {
+    auto& list = Of<QComboBox>(its.cmbPick);
+    QWheelEvent wheel({5, 5}, list.mapToGlobal(QPoint(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&list, &wheel);
+    EXPECT_EQ(its.cmbPick.ListIndex(), -1);
+    Press(Qt::Key_C, "c", Qt::AltModifier);
+    Press(Qt::Key_Down);
+    EXPECT_EQ(its.cmbPick.ListIndex(), 0);
+    EXPECT_EQ(list.currentText(), "one");
+    // A row's text in the field of a combo box is no choice of the row.
+    its.cmbEdit.Focus();
+    Window->Present();
+    Type("two");
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(its.cmbEdit.Text(), "two");
+    EXPECT_EQ(its.cmbEdit.ListIndex(), -1);
+  });
+}
+
+TEST_F(WindowsTest, KeyboardAloneReachesEverything) {
+  Sample sample;
+  Show(sample, [this](Sample& its) {
+    std::vector<std::string> order;
+    for (int i = 0; i < 11; ++i) {
+      order.push_back(its.Form.FocusedControl()->Name());
+      EXPECT_EQ(&Window->KeyTarget(), Window->ViewOf(*its.Form.FocusedControl()).KeyboardWidget());
+      Press(Qt::Key_Tab);
+    }
+    EXPECT_EQ(order, (std::vector<std::string>{"txtName", "cmbPick", "cmbEdit", "txtLines", "optA", "optB", "txtHour",
+                                               "chkOn", "lstChecks", "grdTable", "cmdOK"}));
+    Press(Qt::Key_Backtab, {}, Qt::ShiftModifier);
+    EXPECT_EQ(its.Form.FocusedControl(), &its.cmdOK);
+    Press(Qt::Key_B, "b", Qt::AltModifier);
+    EXPECT_TRUE(Of<QAbstractButton>(its.optB).isChecked());
+    Press(Qt::Key_O, "o", Qt::AltModifier);
+    EXPECT_TRUE(Of<QAbstractButton>(its.chkOn).isChecked());
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(its.Form.ExitCode(), ExitCode::Cancel);
+  });
+}
+
+TEST_F(WindowsTest, UpDownButtonsLeaveTheFocus) {
+  Sample sample;
+  Show(sample, [this](Sample& its) {
+    Of<QWidget>(its.udHour).findChildren<QAbstractButton*>().front()->click();
+    EXPECT_EQ(Of<QLineEdit>(its.txtHour).text(), "8");
+    EXPECT_EQ(its.Form.FocusedControl(), &its.txtName);
+  });
+}
+
+TEST_F(WindowsTest, GridCellsAreEditedInPlace) {
+  Sample sample;
+  Show(sample, [this](Sample& its) {
+    its.grdTable.Focus();
+    Window->Present();
+    Press(Qt::Key_F2);
+    auto* editor = qobject_cast<QLineEdit*>(&Window->KeyTarget());
+    ASSERT_NE(editor, nullptr);
+    EXPECT_TRUE(editor->isVisible());
+    Type("1x");
+    EXPECT_EQ(editor->text(), "old1");
+    Press(Qt::Key_Return);
+    EXPECT_FALSE(editor->isVisible());
+    auto& table = Of<QAbstractItemView>(its.grdTable);
+    EXPECT_EQ(table.model()->index(0, 1).data(), "old1");
+    EXPECT_TRUE(its.Form.IsShown());
+  });
+}
+
+TEST_F(WindowsTest, ScreenReadersHearLabelsAndRoles) {
+  Sample sample;
+  Show(sample, [this](Sample& its) {
+    const struct {
+      const shown::Control& Control;
+      const char* Name;
+      QAccessible::Role Role;
+    } expected[] = {
+        {its.txtName, "Name", QAccessible::EditableText},   {its.cmbPick, "Pick", QAccessible::ComboBox},
+        {its.txtLines, "Lines", QAccessible::EditableText}, {its.txtHour, "Mode", QAccessible::EditableText},
+        {its.chkOn, "On", QAccessible::CheckBox},           {its.optA, "A", QAccessible::RadioButton},
+        {its.fraMode, "Mode", QAccessible::Grouping},       {its.cmdOK, "OK", QAccessible::Button},
+    };
+    for (const auto& one : expected) {
+      const auto* told = QAccessible::queryAccessibleInterface(&Of<QWidget>(one.Control));
+      EXPECT_EQ(told->text(QAccessible::Name).toStdString(), one.Name) << one.Control.Name();
+      EXPECT_EQ(told->role(), one.Role) << one.Control.Name();
+    }
+    its.lblName.SetCaption("Other:");
+    Window->Present();
+    EXPECT_EQ(Of<QWidget>(its.txtName).accessibleName(), "Other");
+  });
+}
+
+TEST_F(WindowsTest, HiddenPartsLeaveNoHoles) {
+  Sample sample;
+  Show(sample, [this](Sample& its) {
+    const int before = Window->sizeHint().height();
+    const int between = Of<QWidget>(its.chkOn).y() - Of<QWidget>(its.fraMode).y();
+    its.fraMode.SetVisible(false);
+    Window->Present();
+    EXPECT_EQ(Window->sizeHint().height(), before - between);
+  });
+}
+
+TEST_F(WindowsTest, NoTextIsClippedAtAnyFontSize) {
+  const auto font = QApplication::font();
+  for (const double scale : {1.0, 2.0}) {
+    auto scaled = font;
+    scaled.setPointSizeF(font.pointSizeF() * scale);
+    QApplication::setFont(scaled);
+    Sample sample;
+    Show(sample, [this](Sample&) {
+      for (const auto* widget : Window->findChildren<QWidget*>()) {
+        const bool hasText = qobject_cast<const QLabel*>(widget) != nullptr ||
+                             qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                             qobject_cast<const QComboBox*>(widget) != nullptr;
+        if (!hasText || !widget->isVisible() || qobject_cast<const QToolButton*>(widget) != nullptr) continue;
+        EXPECT_GE(widget->width(), widget->sizeHint().width()) << widget->metaObject()->className();
+        EXPECT_GE(widget->height(), widget->sizeHint().height()) << widget->metaObject()->className();
+        if (const auto* list = qobject_cast<const QComboBox*>(widget)) {
+          EXPECT_GT(list->width(), list->fontMetrics().horizontalAdvance(list->itemText(2)));
+        }
+      }
+    });
+  }
+  QApplication::setFont(font);
+}
+
+TEST_F(WindowsTest, ADialogLargerThanTheScreenScrollsAndKeepsItsButtons) {
+  Sample sample;
+  sample.chkOn.SetCaption(std::string(400, 'W'));
+  Show(sample, [this](Sample& its) {
+    const auto screen = Window->screen()->availableGeometry().size();
+    EXPECT_LE(Window->width(), screen.width());
+    EXPECT_LE(Window->height(), screen.height());
+    EXPECT_TRUE(Window->rect().contains(Of<QWidget>(its.cmdOK).geometry()));
+    EXPECT_NE(Window->findChild<QScrollArea*>(), nullptr);
+  });
+}
+
+TEST(PlanTest, UnitsAndAlternativesStandWithTheirField) {
+  struct Parts {
+    Dialog Form{"frmParts", "", {}};
+    Label lblA{Form, "lblA", "Time:"};
+    TextBox txtHour{Form, "txtHour"};
+    Label lblColon{Form, "lblColon", ":"};
+    TextBox txtMinute{Form, "txtMinute"};
+    Label lblUnit{Form, "lblUnit", "h"};
+    UpDown udTime{Form, "udTime"};
+    ComboBox cmbOther{Form, "cmbOther"};
+    Label lblB{Form, "lblB", "List:"};
+    ListBox lstB{Form, "lstB"};
+    Button cmdMore{Form, "cmdMore", "More"};
+    OKButton cmdOK{Form};
+    CancelButton cmdCancel{Form};
+  };
+  Platform platform;
+  platform.Host = std::make_shared<QtHost>();
+  UsePlatform(std::move(platform));
+  const Parts parts;
+  const auto plan = PlanDialog(parts.Form);
+  const auto names = [](const FormLine& line) {
+    std::string all;
+    for (const auto* control : line) all.append(all.empty() ? "" : " ").append(control->Name());
+    return all;
+  };
+  ASSERT_EQ(plan.Body.Rows.size(), 2U);
+  EXPECT_EQ(plan.Body.Rows[0].Label, &parts.lblA);
+  ASSERT_EQ(plan.Body.Rows[0].Lines.size(), 2U);
+  EXPECT_EQ(names(plan.Body.Rows[0].Lines[0]), "txtHour lblColon txtMinute udTime lblUnit");
+  EXPECT_EQ(names(plan.Body.Rows[0].Lines[1]), "cmbOther");
+  EXPECT_EQ(plan.Body.Rows[1].What, FormRow::Kind::Tall);
+  EXPECT_EQ(names(plan.LeftButtons), "cmdMore");
+  EXPECT_EQ(names(plan.RightButtons), "cmdOK cmdCancel");
+  UsePlatform({});
+}
+
+TEST(ColourTest, TheColoursOfPasscodesCanBeReadOnAnyGround) {
+  const QPalette palette;
+  for (const std::int32_t colour : {0x0000FF, 0xFF0000}) {
+    for (const QColor ground : {QColor(Qt::white), QColor(30, 30, 30), QColor(Qt::black), QColor(239, 239, 239)}) {
+      const auto shown = Readable(ColourOf(colour, palette), ground);
+      EXPECT_GE(Contrast(shown, ground), 4.5);
+      EXPECT_EQ(shown.red() > shown.blue(), colour == 0x0000FF) << "still the same hue";
+    }
+  }
+}
+
+/// The windows of an operator: a message waits, and the clock runs.
+class QtHostTest : public ::testing::Test {
+ protected:
+  QtHostTest() {
+    Platform platform;
+    platform.Host = std::make_shared<QtHost>();
+    UsePlatform(std::move(platform));
+  }
+  ~QtHostTest() override { UsePlatform({}); }
+};
+
+TEST_F(QtHostTest, AMessageShowsWhatTheHandlerHasDoneSoFar) {
+  Sample sample;
+  int answer = 0;
+  sample.tmrClock.OnTimer = [&] {
+    sample.txtName.SetText("new");
+    answer = sample.Form.ShowMessage("Sure?", Message::YesNo, "Title");
+    sample.Form.Hide();
+  };
+  QString seen;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) return;
+    seen = box->parentWidget()->findChild<QLineEdit*>()->text();
+    EXPECT_EQ(box->text(), "Sure?");
+    EXPECT_EQ(box->standardButtons(), QMessageBox::Yes | QMessageBox::No);
+    box->button(QMessageBox::No)->click();
+  });
+  look.start(1);
+  sample.Form.ShowModal();
+  EXPECT_EQ(seen, "new");
+  EXPECT_EQ(answer, answers::No);
+}
+
+TEST_F(QtHostTest, TheCloseBoxEndsTheShowWithoutAnOutcome) {
+  Sample sample;
+  sample.tmrClock.SetEnabled(false);
+  QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+  sample.Form.ShowModal();
+  EXPECT_EQ(sample.Form.ExitCode(), ExitCode::None);
+}
+
+}  // namespace
+}  // namespace orlin::testing
