@@ -1,7 +1,8 @@
 # What ./run and ./test share: installs what is missing, builds a preset quietly.
 
 run_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
-test_packages=("${run_packages[@]}" libgtest-dev libbenchmark-dev clang-format)
+window_packages=(qt6-base-dev)
+test_packages=("${run_packages[@]}" "${window_packages[@]}" libgtest-dev libbenchmark-dev)
 
 say() { printf '%s\n' "$*" >&2; }
 
@@ -25,9 +26,10 @@ install_packages() {
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
 }
 
-# build PRESET [TARGET]: prints what the build says only if it fails.
+# build PRESET [TARGET...]: prints what the build says only if it fails.
 build() {
-  local preset=$1 target=${2:-all} output
+  local preset=$1 output
+  shift
   output=$(mktemp)
   if [[ ! -f build/$preset/build.ninja ]]; then
     say "Configuring build/$preset ..."
@@ -38,7 +40,7 @@ build() {
     fi
   fi
   [[ -t 2 ]] && say "Building build/$preset ..."
-  if ! cmake --build --preset "$preset" --target "$target" >"$output" 2>&1; then
+  if ! cmake --build --preset "$preset" --target "${@:-all}" >"$output" 2>&1; then
     cat "$output" >&2
     rm -f "$output"
     return 1

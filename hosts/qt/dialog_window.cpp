@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <algorithm>
 #include <utility>
 
@@ -43,7 +44,9 @@ void DialogWindow::WidenCaptions() {
   if (room <= CaptionWidth(*this)) return;
   setProperty(kCaptionWidth, room);
   for (const auto& view : views_) {
-    if (view->Control().Parent() == nullptr && view->Widget() != nullptr) view->Present();
+    const auto length = static_cast<int>(view->Control().Caption().size());
+    const bool isBroken = length * fontMetrics().averageCharWidth() > room / 2;
+    if (view->Control().Parent() == nullptr && isBroken) view->Present();
   }
 }
 
@@ -150,7 +153,7 @@ void DialogWindow::PresentFocus() {
   const bool another = std::exchange(keyboard_, wanted) != wanted;
   wanted->setFocus(Qt::OtherFocusReason);
   // A field that is left forgets its mark.
-  if (another && wanted != this) ViewOf(*focused).Present();
+  if (another && dynamic_cast<const shown::TextControl*>(focused) != nullptr) ViewOf(*focused).Present();
 }
 
 // What a screen reader says for a field: its label, else the frame that it stands in, else the dialog.
@@ -178,7 +181,7 @@ void DialogWindow::Fit() {
     if ((*widget)->layout() != nullptr) (*widget)->layout()->activate();
   }
   layout()->activate();
-  const auto most = screen()->availableGeometry().size() * kMostOfScreen;
+  const auto most = (room_.isValid() ? room_ : screen()->availableGeometry().size()) * kMostOfScreen;
   const auto hint = sizeHint();
   if ((hint.width() > most.width() || hint.height() > most.height()) && qobject_cast<QScrollArea*>(body_) == nullptr) {
     // Too large for the screen: the form scrolls, the buttons stay.
@@ -188,10 +191,12 @@ void DialogWindow::Fit() {
     area->setFocusPolicy(Qt::NoFocus);
     delete layout()->replaceWidget(body_, area);
     area->setWidget(body_);
-    area->setMinimumWidth(std::min(hint.width(), most.width() - 40));
     body_ = area;
     layout()->activate();
-    resize(hint.boundedTo(most));
+    // A scroll bar for one direction takes room from the other.
+    const int bar = area->verticalScrollBar()->sizeHint().width();
+    const QSize bars(hint.height() > most.height() ? bar : 0, hint.width() > most.width() ? bar : 0);
+    resize((hint + bars).boundedTo(most));
     return;
   }
   if (qobject_cast<QScrollArea*>(body_) != nullptr) return;

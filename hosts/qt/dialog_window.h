@@ -23,6 +23,9 @@ class DialogWindow final : public QDialog, public Desk {
   /// The dialog outlives the window.
   DialogWindow(shown::Dialog& dialog, Timers timers, QWidget* parent);
 
+  /// Plans for a screen of that size instead of the one that is there.
+  void SetRoom(QSize room) { room_ = room; }
+
   /// Activates the dialog and shows the window.
   void Open();
   /// Lets the operator work until the dialog is no longer shown. Throws on what a host call threw in a handler.
@@ -71,6 +74,7 @@ class DialogWindow final : public QDialog, public Desk {
   bool presenting_ = false;
   bool busy_ = false;
   QSize fitted_;
+  QSize room_;  // of another screen; invalid for that of the window
   Refusal refusal_;
   std::exception_ptr thrown_;
   QEventLoop loop_;

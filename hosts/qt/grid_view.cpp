@@ -30,21 +30,30 @@ class CellModel final : public QAbstractTableModel {
  public:
   CellModel(const shown::Grid& grid, QWidget& view) : QAbstractTableModel(&view), grid_(grid), view_(view) {}
 
-  void Take() {
+  /// Tells whether anything is different.
+  bool Take() {
     const bool reshaped = static_cast<int>(cells_.size()) != grid_.Rows() || cols_ != grid_.Cols();
     if (reshaped) beginResetModel();
     cols_ = grid_.Cols();
     cells_.resize(static_cast<std::size_t>(grid_.Rows()));
+    bool different = reshaped;
     for (int row = 0; row < grid_.Rows(); ++row) {
       auto& cells = cells_[static_cast<std::size_t>(row)];
       cells.resize(static_cast<std::size_t>(cols_));
-      for (int col = 0; col < cols_; ++col) cells[static_cast<std::size_t>(col)] = grid_.CellAt(row, col);
+      for (int col = 0; col < cols_; ++col) {
+        auto& mine = cells[static_cast<std::size_t>(col)];
+        const auto& now = grid_.CellAt(row, col);
+        if (mine.Text == now.Text && mine.Color == now.Color && mine.Bold == now.Bold) continue;
+        mine = now;
+        different = true;
+      }
     }
     if (reshaped) {
       endResetModel();
-    } else if (rowCount() > 0 && cols_ > 0) {
+    } else if (different && rowCount() > 0 && cols_ > 0) {
       emit dataChanged(index(0, 0), index(rowCount() - 1, cols_ - 1));
     }
+    return different;
   }
 
   [[nodiscard]] int TitleRows() const { return std::min(grid_.FixedRows(), 1); }
@@ -135,7 +144,7 @@ class CellTable final : public QTableView {
     setCornerButtonEnabled(false);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(QLineEdit().sizeHint().height());
+    verticalHeader()->setDefaultSectionSize(FieldHeight(*this));
     horizontalHeader()->setVisible(model_->TitleRows() > 0);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
@@ -150,8 +159,9 @@ class CellTable final : public QTableView {
   bool TakeEditingKey(const QKeyEvent& key) { return grid_.Editing() && editor_->TakeEditingKey(key); }
 
   void Present() {
-    model_->Take();
-    FitColumns();
+    // Column widths come from the texts, and from the widths that the dialog gives.
+    const bool different = model_->Take();
+    if (different || givenWidths_ != GivenWidths()) FitColumns();
     const auto current = model_->index(grid_.Row() - model_->TitleRows(), grid_.Col());
     if (current != currentIndex()) {
       selectionModel()->setCurrentIndex(current, QItemSelectionModel::ClearAndSelect);
@@ -216,16 +226,23 @@ class CellTable final : public QTableView {
 
   // Wide enough for every text; where there is room, in the proportions that the dialog gives.
   void FitColumns() {
+    givenWidths_ = GivenWidths();
     const int around =
         2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + fontMetrics().averageCharWidth();
     widths_.assign(static_cast<std::size_t>(grid_.Cols()), 0);
     for (int col = 0; col < grid_.Cols(); ++col) {
-      const int given = grid_.ColWidth(col) * logicalDpiX() / 1440;
+      const int given = givenWidths_[static_cast<std::size_t>(col)] * logicalDpiX() / 1440;
       const auto header = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->sectionSizeHint(col);
       auto& width = widths_[static_cast<std::size_t>(col)];
       width = std::max({given, header, model_->TextWidth(col) + around});
       if (columnWidth(col) != width) setColumnWidth(col, width);
     }
+  }
+
+  [[nodiscard]] std::vector<int> GivenWidths() const {
+    std::vector<int> given;
+    for (int col = 0; col < grid_.Cols(); ++col) given.push_back(grid_.ColWidth(col));
+    return given;
   }
 
   [[nodiscard]] QSize HintFor(int mostRows) const {
@@ -241,6 +258,7 @@ class CellTable final : public QTableView {
   CellModel* model_ = nullptr;
   PassiveLine* editor_ = nullptr;
   std::vector<int> widths_;
+  std::vector<int> givenWidths_;
 };
 
 class GridView final : public ViewOf<shown::Grid> {

@@ -12,6 +12,9 @@
 namespace orlin {
 namespace {
 
+// Of a common screen, twice as fine, so that texts of twice the size fit.
+constexpr QSize kScreen(3840, 2160);
+
 QPalette DarkPalette() {
   QPalette palette(QColor(45, 45, 48));
   palette.setColor(QPalette::Base, QColor(30, 30, 30));
@@ -40,6 +43,7 @@ SizeInTwips PictureHost::Screen() const { return {15360, 11520}; }
 
 void PictureHost::ShowModal(shown::Dialog& dialog) {
   DialogWindow window(dialog, DialogWindow::Timers::Stand, nullptr);
+  window.SetRoom(kScreen);
   window.Open();
   QApplication::processEvents();
   const auto folder = Shown(options_.Folder);

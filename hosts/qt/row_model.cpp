@@ -1,18 +1,31 @@
 #include "qt/row_model.h"
 
 #include <algorithm>
+#include <array>
 
 #include "qt/texts.h"
 
 namespace orlin {
 
 int WidthOfLongest(const std::vector<const std::string*>& texts, const QFontMetrics& metrics) {
-  std::size_t longest = 0;
-  for (const auto* text : texts) longest = std::max(longest, text->size());
+  // The advances of single letters tell which texts can be the widest; only these are measured as they are drawn.
+  std::array<int, 128> advances{};
+  const auto roughWidth = [&](const std::string& text) {
+    int width = 0;
+    for (const char c : text) {
+      const auto place = static_cast<unsigned char>(c) % advances.size();
+      if (advances[place] == 0) advances[place] = metrics.horizontalAdvance(QChar(static_cast<int>(place)));
+      width += advances[place];
+    }
+    return width;
+  };
+  std::vector<int> rough;
+  rough.reserve(texts.size());
+  for (const auto* text : texts) rough.push_back(roughWidth(*text));
+  const int most = rough.empty() ? 0 : *std::max_element(rough.begin(), rough.end());
   int width = 0;
-  for (const auto* text : texts) {
-    // A text of half the length is not wider, whatever its letters are but for rare cases of "W" against "i".
-    if (text->size() * 2 >= longest) width = std::max(width, metrics.horizontalAdvance(Shown(*text)));
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    if (rough[i] * 10 >= most * 9) width = std::max(width, metrics.horizontalAdvance(Shown(*texts[i])));
   }
   return width;
 }

@@ -31,7 +31,7 @@ class RowModel final : public QAbstractListModel {
   mutable QFont font_;
 };
 
-/// The width of the longest of some texts. Only long ones are measured: measuring is what costs.
+/// The width of the widest of some texts.
 [[nodiscard]] int WidthOfLongest(const std::vector<const std::string*>& texts, const QFontMetrics& metrics);
 
 }  // namespace orlin

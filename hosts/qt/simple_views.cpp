@@ -4,9 +4,10 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyle>
+#include <QStyleOptionFrame>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -124,7 +125,7 @@ class UpDownView final : public ViewOf<shown::UpDown> {
     auto* layout = new QVBoxLayout(pair_);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    const int height = QLineEdit().sizeHint().height();
+    const int height = FieldHeight(*pair_);
     Add(shown::UpDown::Direction::Up, Qt::UpArrow, QObject::tr("Up"), height - height / 2);
     Add(shown::UpDown::Direction::Down, Qt::DownArrow, QObject::tr("Down"), height / 2);
   }
@@ -181,6 +182,15 @@ class TimerView final : public ViewOf<shown::Timer> {
 };
 
 }  // namespace
+
+int FieldHeight(const QWidget& widget) {
+  QStyleOptionFrame option;
+  option.initFrom(&widget);
+  option.lineWidth = widget.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &widget);
+  constexpr int marginsOfField = 2;
+  const QSize content(0, widget.fontMetrics().height() + marginsOfField);
+  return widget.style()->sizeFromContents(QStyle::CT_LineEdit, &option, content, &widget).height();
+}
 
 int CaptionWidth(const QWidget& widget) {
   const int usual = widget.fontMetrics().averageCharWidth() * 64;

@@ -46,16 +46,20 @@ QString SpokenCaption(std::string_view caption) {
 QString Wrapped(const QString& text, const QFontMetrics& metrics, int width) {
   // Most captions are short; measuring a text costs more than anything else here.
   if (text.size() * metrics.averageCharWidth() < width / 2 || metrics.horizontalAdvance(text) <= width) return text;
+  const int blank = metrics.horizontalAdvance(u' ');
   QStringList lines;
   for (const auto& paragraph : text.split(u'\n')) {
     QString line;
+    int lineWidth = 0;
     for (const auto& word : paragraph.split(u' ')) {
-      const auto longer = line.isEmpty() ? word : line + u' ' + word;
-      if (!line.isEmpty() && metrics.horizontalAdvance(longer) > width) {
+      const int wordWidth = metrics.horizontalAdvance(word);
+      if (!line.isEmpty() && lineWidth + blank + wordWidth > width) {
         lines += line;
         line = word;
+        lineWidth = wordWidth;
       } else {
-        line = longer;
+        lineWidth += wordWidth + (line.isEmpty() ? 0 : blank);
+        line += line.isEmpty() ? word : u' ' + word;
       }
     }
     lines += line;

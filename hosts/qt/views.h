@@ -27,4 +27,7 @@ inline constexpr const char* kCaptionWidth = "captionWidth";
 /// The widest that a caption may be before it is broken into lines.
 [[nodiscard]] int CaptionWidth(const QWidget& widget);
 
+/// How high a field of one line is beside that widget.
+[[nodiscard]] int FieldHeight(const QWidget& widget);
+
 }  // namespace orlin

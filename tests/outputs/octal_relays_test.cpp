@@ -82,6 +82,8 @@ TEST(OctalRelays, BoxesTakeStepsAndDigits) {
       {{"1", "05"}, "select cmbType 3", ""},
       {{"1", "05"}, "select cmbType 3\nkey txtFunction Up", "1"},
       {{"3", "05"}, "select cmbType 2\nselect cmbFunction 6\nselect cmbType 3", "5"},
+      // The list of another type has been at the memory.
+      {{"3", "05"}, "click chkDisabled\nselect cmbType 2\nselect cmbType 3\nclick chkDisabled", "1"},
       // A number too large to remember leaves what cmbFunction left.
       {{"3", "10000"}, "click chkDisabled\nclick chkDisabled", "1"},
       {{"4", "12C"}, "", "", "300"},

@@ -59,6 +59,8 @@ TEST(OnboardOutputs, OptionSurvivesAChangeOfTypeWhereItCan) {
   EXPECT_EQ(Selection(run), "10000");
   EXPECT_EQ(run.Control(Option(1))["enabled"], true);
   EXPECT_EQ(run.Argument("vOption"), Integer(0));
+  // Hidden on its type, shown on another.
+  EXPECT_EQ(Open("2", "4", "select cmbType 10\nclick cmdOK").Argument("vOption"), Integer(4));
   EXPECT_EQ(Open("2", "1", "click optOption(3)\nclick cmdOK").Argument("vOption"), Integer(3));
 }
 

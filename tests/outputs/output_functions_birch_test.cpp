@@ -76,9 +76,9 @@ TEST(OutputFunctionsBirch, BoxesRememberTheirZones) {
   } cases[] = {
       {{"14"}, "select cmbType 3\nselect cmbType 12", "7", "9"},
       {{"14"}, "select cmbType 11", "7", ""},
-      {{"14", "FF", "FE"}, "", "255", "254"},
-      {{"14", "FF", "FE"}, "select cmbType 13", "248", "248"},
-      {{"14", "FF", "FE"}, "select cmbType 11\nselect cmbType 3\nselect cmbType 12", "248", "248"},
+      {{"14", "FF", "F9"}, "", "255", "249"},
+      {{"14", "FF", "F9"}, "select cmbType 13", "248", "248"},
+      {{"14", "FF", "F9"}, "select cmbType 11\nselect cmbType 3\nselect cmbType 12", "248", "248"},
       {{"14"}, "type txtFirstZone \"1x\"\ntype txtSecondZone \"99\"", "17", "248", 1},
       {{"14", "1", "2"}, "type txtFirstZone \"x\"\ntype txtSecondZone \"x\"", "1", "2", 2},
       // A closed box takes no keys.

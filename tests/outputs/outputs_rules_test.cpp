@@ -108,6 +108,7 @@ TEST(OutputEditors, ArgumentsThatAreReplacedOnEntryStaySoUnlessOkPassed) {
       {Onboard("13", "0"), "vType", Integer(12)},
       {Onboard("\"14\"", "0"), "vType", Integer(13)},
       {Onboard("\"12\"", "0"), "vType", "12"},
+      {Onboard("15", "0"), "vType", Integer(15)},
       {Relay("Base", "\"24\"", "[0*8]"), "FunctionCode", "24"},
       {Relay("Mid", "1", "[1]"), "ParameterCode", Array({Integer(1)})},
       {Pine("\"5\""), "vCode", "5"},
