@@ -167,6 +167,9 @@ void DialogWindow::PresentNames() {
                          : control.Parent() != nullptr && !control.Parent()->Caption().empty()
                              ? control.Parent()->Caption()
                              : dialog_.Caption();
+    if (label != plan_.Labels.end() && label->second->Names() == &control) {
+      dynamic_cast<QLabel&>(*ViewOf(*label->second).Widget()).setBuddy(widget);
+    }
     const auto name = SpokenCaption(source);
     if (widget->accessibleName() == name) continue;
     widget->setAccessibleName(name);

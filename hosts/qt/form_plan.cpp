@@ -39,18 +39,23 @@ bool IsSeparator(const Label& label) {
   return !text.isEmpty() && std::none_of(text.begin(), text.end(), [](QChar c) { return c.isLetterOrNumber(); });
 }
 
-/// The label of each field: the last one before it that names it. A label that names nothing by its index stands for
-/// the first field behind it.
+/// The first control behind a label that takes the focus, and has the label's index where it has one: a label stays
+/// where it is, whichever of the controls behind it is visible.
+const Control* FirstBehind(const std::vector<Control*>& all, std::vector<Control*>::const_iterator label) {
+  const auto found = std::find_if(std::next(label), all.end(), [&](const auto* control) {
+    return control->TakesFocus() && control->Parent() == (*label)->Parent() &&
+           ((*label)->Index() < 0 || control->Index() == (*label)->Index());
+  });
+  return found == all.end() ? nullptr : *found;
+}
+
+/// The label of each field: the last one before it that stands for it.
 std::map<const Control*, Label*> LabelsOf(const std::vector<Control*>& all) {
   std::map<const Control*, Label*> labels;
   for (auto at = all.begin(); at != all.end(); ++at) {
     auto* label = dynamic_cast<Label*>(*at);
     if (label == nullptr) continue;
-    const auto* named = label->Names();
-    if (named == nullptr && std::next(at) != all.end() && WantsLabel(**std::next(at)) &&
-        (*std::next(at))->Parent() == label->Parent()) {
-      named = *std::next(at);
-    }
+    const auto* named = FirstBehind(all, at);
     if (named != nullptr && WantsLabel(*named)) labels[named] = label;
   }
   return labels;
@@ -185,6 +190,7 @@ class Planner {
       Continue(field);
     } else if (label == nullptr && FieldIsOpen()) {
       plan_.Rows.back().Lines.push_back({&field});
+      if (plan_.Rows.back().Label != nullptr) labels_[&field] = plan_.Rows.back().Label;
       if (kind == FormRow::Kind::Tall) plan_.Rows.back().What = kind;
     } else {
       Add({kind, label, {{&field}}});

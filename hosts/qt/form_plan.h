@@ -38,7 +38,7 @@ struct DialogPlan {
   FormLine LeftButtons;   ///< of the button row: those that do not end the dialog
   FormLine RightButtons;  ///< OK and Cancel
   shown::StatusBar* Status = nullptr;
-  /// The label of each field that has one.
+  /// The label of each field that has one; fields that take turns share it.
   std::map<const shown::Control*, shown::Label*> Labels;
 };
 

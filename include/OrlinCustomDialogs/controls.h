@@ -190,8 +190,9 @@ class Control {
 class Label : public Control {
  public:
   /// The control that the label names, whose access key it carries, or null: the next one in order of declaration that
-  /// takes the focus and stands in the same container. Where several take turns behind one label, it is the one that is
-  /// visible. A label of an array names the control with its index in the array that follows.
+  /// takes the focus, has no caption of its own and stands in the same container. Where several take turns behind one
+  /// label, it is the one that is visible. A label of an array names the control with its index in the array that
+  /// follows.
   [[nodiscard]] Control* Names() const;
 
  protected:

@@ -171,7 +171,8 @@ Control* Label::Names() const {
     auto* control = *next;
     if (control->Parent() != Parent() || (Index() >= 0 && control->Index() != Index())) continue;
     if (first != nullptr && control->Kind() == ControlKind::Label) break;
-    if (!control->TakesFocus()) continue;
+    // A control with a caption needs no label.
+    if (!control->TakesFocus() || !control->Caption().empty()) continue;
     if (control->Visible()) return control;
     if (first == nullptr) first = control;
   }

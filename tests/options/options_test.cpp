@@ -2,13 +2,10 @@
 
 #include "OrlinCustomDialogs/failure.h"
 
-#include "catalogue/text_catalogue.h"
 #include "support/dialog_test.h"
 
 namespace orlin::testing {
 namespace {
-
-std::string Text(std::int16_t number) { return TextCatalogue().GetLocalTextBASE(number); }
 
 // ---------------------------------------------------------------------------------------------- phone line faults
 

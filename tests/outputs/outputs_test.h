@@ -4,7 +4,6 @@
 #include <utility>
 #include <vector>
 
-#include "catalogue/text_catalogue.h"
 #include "support/dialog_test.h"
 
 namespace orlin::testing {
@@ -17,16 +16,6 @@ using Values = std::vector<Value>;
 inline Numbers Then(Numbers numbers, std::int16_t first, std::int16_t last) {
   for (auto number = first; number <= last; ++number) numbers.push_back(number);
   return numbers;
-}
-
-/// A text of the catalogue, with a variable of it filled in.
-inline std::string Text(std::int16_t number, const std::string& variable = "", const std::string& value = "") {
-  auto text = TextCatalogue().GetLocalTextBASE(number);
-  if (variable.empty()) return text;
-  const auto marker = "%" + variable + "%";
-  const auto at = text.find(marker);
-  EXPECT_NE(at, std::string::npos) << text << " has no " << marker;
-  return at == std::string::npos ? text : text.replace(at, marker.size(), value);
 }
 
 inline Json Texts(const Numbers& numbers) {

@@ -311,7 +311,8 @@ TEST(PlanTest, UnitsAndAlternativesStandWithTheirField) {
     UpDown udTime{Form, "udTime"};
     ComboBox cmbOther{Form, "cmbOther"};
     Label lblB{Form, "lblB", "List:"};
-    ListBox lstB{Form, "lstB"};
+    TextBox txtB{Form, "txtB", {.Common = {.Visible = false}}};
+    ListBox lstB{Form, "lstB", {.Common = {.Visible = false}}};
     Button cmdMore{Form, "cmdMore", "More"};
     OKButton cmdOK{Form};
     CancelButton cmdCancel{Form};
@@ -332,6 +333,8 @@ TEST(PlanTest, UnitsAndAlternativesStandWithTheirField) {
   EXPECT_EQ(names(plan.Body.Rows[0].Lines[0]), "txtHour lblColon txtMinute udTime lblUnit");
   EXPECT_EQ(names(plan.Body.Rows[0].Lines[1]), "cmbOther");
   EXPECT_EQ(plan.Body.Rows[1].What, FormRow::Kind::Tall);
+  EXPECT_EQ(plan.Body.Rows[1].Label, &parts.lblB) << "also while nothing behind it is visible";
+  EXPECT_EQ(plan.Labels.at(&parts.lstB), &parts.lblB);
   EXPECT_EQ(names(plan.LeftButtons), "cmdMore");
   EXPECT_EQ(names(plan.RightButtons), "cmdOK cmdCancel");
   UsePlatform({});

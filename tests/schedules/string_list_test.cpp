@@ -1,6 +1,5 @@
 #include <string>
 
-#include "catalogue/text_catalogue.h"
 #include "support/dialog_test.h"
 
 namespace orlin::testing {
@@ -57,9 +56,9 @@ TEST(StringList, HasEveryHalfHour) {
     const auto hour = std::to_string(i / 2);
     EXPECT_EQ(lines[i], (i < 20 ? "0" : "") + hour + (i % 2 == 1 ? ":30" : ":00"));
   }
-  EXPECT_EQ(run.Events("state")[0].at("caption"), TextCatalogue().GetLocalTextBASE(124));
-  EXPECT_EQ(run.Control("Label1").at("caption"), TextCatalogue().GetLocalTextBASE(1174));
-  EXPECT_EQ(run.Control("Frame1").at("caption"), TextCatalogue().GetLocalTextBASE(1169));
+  EXPECT_EQ(run.Events("state")[0].at("caption"), Text(124));
+  EXPECT_EQ(run.Control("Label1").at("caption"), Text(1174));
+  EXPECT_EQ(run.Control("Frame1").at("caption"), Text(1169));
 }
 
 }  // namespace

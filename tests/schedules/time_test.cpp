@@ -3,7 +3,6 @@
 
 #include "OrlinCustomDialogs/schedules.h"
 
-#include "catalogue/text_catalogue.h"
 #include "frame/modGeneral.h"
 #include "standard_platform.h"
 #include "support/dialog_test.h"
@@ -89,17 +88,13 @@ TEST(Time, StepsWithoutMovingTheCaret) {
 }
 
 TEST(Time, PromptsForTheBoxThatHasTheFocus) {
-  const auto prompt = [](std::int16_t number) {
-    auto text = TextCatalogue().GetLocalTextBASE(number);
-    return text.replace(text.find("%NUMBER%"), 8, "1");
-  };
   const auto run = Open(754, "dump\nfocus txtMinute\ndump\nfocus cmdOK\ndump");
-  EXPECT_EQ(run.Control("StatusBar1", 0).at("text"), prompt(1177));
+  EXPECT_EQ(run.Control("StatusBar1", 0).at("text"), Text(1177, "NUMBER", "1"));
   EXPECT_EQ(run.Control("txtHour", 0).at("selLength"), 2);
-  EXPECT_EQ(run.Control("StatusBar1", 1).at("text"), prompt(1178));
+  EXPECT_EQ(run.Control("StatusBar1", 1).at("text"), Text(1178, "NUMBER", "1"));
   EXPECT_EQ(run.Control("txtMinute", 1).at("selLength"), 2);
   EXPECT_EQ(run.Control("StatusBar1", 2).at("text"), "");
-  EXPECT_EQ(run.Events("state").at(0).at("caption"), TextCatalogue().GetLocalTextBASE(1175));
+  EXPECT_EQ(run.Events("state").at(0).at("caption"), Text(1175));
 }
 
 // More minutes than a day has, for want of anything else that fails.

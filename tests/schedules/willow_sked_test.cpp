@@ -4,7 +4,6 @@
 #include <utility>
 #include <vector>
 
-#include "catalogue/text_catalogue.h"
 #include "support/dialog_test.h"
 
 namespace orlin::testing {
@@ -27,15 +26,6 @@ DialogRun Open(const Sked& sked, const std::string& script, const std::vector<st
               {"SkedNo=" + sked.No, "SkedType=" + sked.Type, "SkedTime=" + sked.Time, "TimeEdit=" + sked.Edit,
                "SkedData=" + sked.Data, "SkedFunc=" + sked.Func},
               script, options);
-}
-
-std::string Text(std::int16_t number, const std::string& variable = "", const std::string& value = "") {
-  auto text = TextCatalogue().GetLocalTextBASE(number);
-  if (variable.empty()) return text;
-  const auto marker = "%" + variable + "%";
-  const auto at = text.find(marker);
-  EXPECT_NE(at, std::string::npos) << text << " has no " << marker;
-  return at == std::string::npos ? text : text.replace(at, marker.size(), value);
 }
 
 std::vector<Value> Stored(const DialogRun& run) {

@@ -6,6 +6,7 @@
 
 #include "app/arguments.h"
 #include "app/edit.h"
+#include "catalogue/text_catalogue.h"
 #include "script/script.h"
 #include "support/dialog_test.h"
 #include "support/temporary_folder.h"
@@ -113,6 +114,16 @@ const Json& Nth(const std::vector<Json>& lines, std::optional<std::size_t> numbe
 }
 
 }  // namespace
+
+std::string Text(int number, const std::string& variable, const std::string& value) {
+  auto text = TextCatalogue().GetLocalTextBASE(static_cast<std::int16_t>(number));
+  EXPECT_NE(text, "") << number;
+  if (variable.empty()) return text;
+  const auto marker = "%" + variable + "%";
+  const auto at = text.find(marker);
+  EXPECT_NE(at, std::string::npos) << text << " has no " << marker;
+  return at == std::string::npos ? text : text.replace(at, marker.size(), value);
+}
 
 std::vector<Json> DialogRun::Events(std::string_view kind) const {
   std::vector<Json> events;

@@ -2,13 +2,10 @@
 
 #include "OrlinCustomDialogs/failure.h"
 
-#include "catalogue/text_catalogue.h"
 #include "support/dialog_test.h"
 
 namespace orlin::testing {
 namespace {
-
-std::string Text(int number) { return TextCatalogue().GetLocalTextBASE(static_cast<std::int16_t>(number)); }
 
 std::string Assign(const char* name, int number) { return std::string(name) + "=" + std::to_string(number); }
 

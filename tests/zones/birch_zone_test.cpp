@@ -1,5 +1,6 @@
 #include "OrlinCustomDialogs/zones.h"
 
+#include "catalogue/text_catalogue.h"
 #include "frame/services.h"
 #include "standard_platform.h"
 #include "support/frame_fixture.h"
@@ -28,7 +29,7 @@ Call Type(const std::string& zone, const std::string& rf, const std::string& typ
 
 TEST(BirchZone, ShowsTheListsAndNamesTheZone) {
   const auto run = Zone({"vName=Zone 5", "vType=13", "vOption=2", "vTroubleOn=1"}).Play("dump");
-  EXPECT_EQ(run.Events("show").at(0).at("caption"), Text(1192, "%ITEM%", "Zone 5"));
+  EXPECT_EQ(run.Events("show").at(0).at("caption"), Text(1192, "ITEM", "Zone 5"));
   ExpectTexts(
       run,
       {{"lblType", {234}},

@@ -34,7 +34,7 @@ TEST(OakPoint, EachModelHasItsLists) {
   for (const auto& [model, lists] : cases) {
     const auto run = Point(model, "300").Play("dump");
     EXPECT_EQ(run.Events("show").at(0).at("caption"), Text(1386));
-    EXPECT_EQ(run.Control("lblPointText").at("caption"), Text(1392, "%POINT%", "17"));
+    EXPECT_EQ(run.Control("lblPointText").at("caption"), Text(1392, "POINT", "17"));
     for (int digit = 1; digit <= 5; ++digit) {
       const auto& items = lists[static_cast<std::size_t>(digit - 1)];
       const auto label = run.Control("lblDigit(" + std::to_string(digit) + ")");

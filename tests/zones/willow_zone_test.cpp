@@ -17,7 +17,7 @@ const struct {
 TEST(WillowZone, ShowsEightNumberedItemsPerDigit) {
   const auto run = Zone("0000").Play("dump");
   EXPECT_EQ(run.Events("show").at(0).at("caption"), Text(1748));
-  EXPECT_EQ(run.Control("lblZoneText").at("caption"), Text(1750, "%ZONE%", "5"));
+  EXPECT_EQ(run.Control("lblZoneText").at("caption"), Text(1750, "ZONE", "5"));
   ExpectTexts(run,
               {{"lblDigit(0)", {1391}}, {"lblDigit(1)", {1390}}, {"lblDigit(2)", {1389}}, {"lblDigit(3)", {1388}}});
   for (int digit = 0; digit < 4; ++digit) {

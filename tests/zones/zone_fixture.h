@@ -5,18 +5,9 @@
 #include <vector>
 
 #include "app/arguments.h"
-#include "catalogue/text_catalogue.h"
 #include "support/dialog_test.h"
 
 namespace orlin::testing {
-
-inline std::string Text(std::int16_t number) { return TextCatalogue().GetLocalTextBASE(number); }
-
-/// A text with its variable, %NAME%, replaced.
-inline std::string Text(std::int16_t number, const std::string& marker, const std::string& value) {
-  auto text = Text(number);
-  return text.replace(text.find(marker), marker.size(), value);
-}
 
 /// The captions of labels and the rows of lists are these texts.
 inline void ExpectTexts(const DialogRun& run,
