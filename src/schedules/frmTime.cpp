@@ -114,7 +114,7 @@ void frmTime::TakeCharacter(const Part& part, int& character) {
 }
 
 void frmTime::Leave(const Part& part) {
-  // An empty box counts as 0.
+  if (part.Box.Text().empty()) part.Box.SetText("0");
   part.Box.SetText(TwoDigits(ToInteger(NumericValue(part.Box.Text()))));
   StatusBar1.SetText("");
 }
