@@ -1,8 +1,9 @@
 # What ./run and ./test share: installs what is missing, builds a preset quietly.
 
-run_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
+run_packages=(g++ cmake ninja-build pkg-config libcli11-dev nlohmann-json3-dev libsqlite3-dev unixodbc-dev)
 window_packages=(qt6-base-dev)
-test_packages=("${run_packages[@]}" "${window_packages[@]}" libgtest-dev libbenchmark-dev)
+test_packages=("${run_packages[@]}" "${window_packages[@]}" libgtest-dev libbenchmark-dev
+  postgresql odbc-postgresql libsqliteodbc)
 
 say() { printf '%s\n' "$*" >&2; }
 

@@ -2,9 +2,12 @@
 
 #include "bits/bits.h"
 #include "catalogue/text_catalogue.h"
+#include "cipher/ccrypt.h"
 #include "clock/locale_clock.h"
 #include "settings/registry_file_settings.h"
 #include "store/data_list.h"
+#include "store/drive_paths.h"
+#include "store/file_database_engine.h"
 
 namespace orlin {
 namespace {
@@ -25,6 +28,10 @@ std::shared_ptr<const TextTable> ReadTexts(const std::optional<std::filesystem::
   return file ? std::make_shared<const TextTable>(ReadCatalogueFile(*file)) : nullptr;
 }
 
+std::optional<DataListEntries> ReadEntries(const std::optional<std::filesystem::path>& file) {
+  return file ? std::optional(ReadDataList(*file)) : std::nullopt;
+}
+
 }  // namespace
 
 Platform StandardPlatform(const StandardPlatformOptions& options) {
@@ -34,19 +41,22 @@ Platform StandardPlatform(const StandardPlatformOptions& options) {
   platform.Bits = std::make_shared<Bits>();
   platform.Clock = MakeClock(options.Now);
 
-  // A data list that cannot be read is told now, not when the first account is opened.
-  if (options.DataListFile) TextFile{*options.DataListFile};
+  const auto drives = options.DrivesFolder.value_or(DefaultDrivesFolder());
+  platform.Engine = std::make_shared<FileDatabaseEngine>(drives);
 
-  platform.Components["LocalText.clsLocalText"] = [texts = ReadTexts(options.CatalogueFile)] {
-    return std::make_shared<TextCatalogue>(texts);
+  platform.Components["LocalText.clsLocalText"] = [texts = ReadTexts(options.CatalogueFile),
+                                                    &language = LanguageOf(options.Language.value_or("en"))] {
+    return std::make_shared<TextCatalogue>(texts, language);
   };
   platform.Components["FaultObject.clsFaultObject"] =
       [faults = FaultLogOptions{options.Host, std::make_shared<FaultFile>(options.FaultFile), options.OnFaultLogged}] {
         return std::make_shared<FaultLog>(faults);
       };
-  platform.Components["storeObj.clsDList"] = [places = DataListPlaces{options.DataListFile, options.DrivesFolder}] {
+  // Read here: a data list that is wrong is told now, not when the first account is opened.
+  platform.Components["storeObj.clsDList"] = [places = DataListPlaces{ReadEntries(options.DataListFile), drives}] {
     return std::make_shared<DataList>(places);
   };
+  platform.Components["Kesmit.Encryption.CCrypt"] = [] { return std::make_shared<CCrypt>(); };
   return platform;
 }
 

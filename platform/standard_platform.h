@@ -15,11 +15,15 @@ namespace orlin {
 
 struct StandardPlatformOptions {
   std::shared_ptr<DialogHost> Host;
-  /// Texts in place of the English ones (see `ReadCatalogueFile`).
+  /// The language of the texts, as a locale names it (see `LanguageOf`); nothing: English.
+  std::optional<std::string> Language;
+  /// Texts in place of those of the language (see `ReadCatalogueFile`).
   std::optional<std::filesystem::path> CatalogueFile;
   /// Settings in place of the built-in ones (see `RegistryFileSettings`).
   std::optional<std::filesystem::path> SettingsFile;
+  /// Where the databases are (see `ReadDataList`); nothing: what the settings name, else the built-in list.
   std::optional<std::filesystem::path> DataListFile;
+  /// The folder in which drive letters are folders; nothing: `tolmar/drives` in the user's data folder.
   std::optional<std::filesystem::path> DrivesFolder;
   /// Where faults are appended; nothing: the file that the library names, in the current folder.
   std::optional<std::filesystem::path> FaultFile;

@@ -7,6 +7,7 @@
 
 #include "frame/live_objects.h"
 #include "frame/services.h"
+#include "notes/register.h"
 #include "options/register.h"
 #include "outputs/register.h"
 #include "schedules/register.h"
@@ -23,8 +24,8 @@ constexpr std::string_view kComponentName = "OrlinCustomDialogs.";
 
 std::vector<PublicClass> Collect() {
   std::vector<PublicClass> all;
-  for (const auto classesOf :
-       {OptionsClasses, OutputsClasses, SchedulesClasses, VerificationClasses, WirelessClasses, ZonesClasses}) {
+  for (const auto classesOf : {NotesClasses, OptionsClasses, OutputsClasses, SchedulesClasses, VerificationClasses,
+                               WirelessClasses, ZonesClasses}) {
     for (auto& publicClass : classesOf()) all.push_back(std::move(publicClass));
   }
   std::sort(all.begin(), all.end(), [](const auto& a, const auto& b) { return a.Name() < b.Name(); });

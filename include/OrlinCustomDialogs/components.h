@@ -51,9 +51,52 @@ class FaultObjectComponent : public Object {
   virtual void Clear() = 0;
 };
 
-/// The data list of the account store, created by name as "storeObj.clsDList".
+/// One column of the current row of a recordset. Valid as long as the recordset.
+class RecordsetField {
+ public:
+  RecordsetField() = default;
+  RecordsetField(const RecordsetField&) = delete;
+  RecordsetField& operator=(const RecordsetField&) = delete;
+  virtual ~RecordsetField() = default;
+
+  /// A text or a number; Empty where the row holds nothing there. May raise a `Failure`.
+  [[nodiscard]] virtual orlin::Value Value() = 0;
+  /// Takes effect with the next `UpdateDsWise`; only between `AddNewDsWise` or `EditDsWise` and that.
+  virtual void SetValue(const orlin::Value& value) = 0;
+};
+
+/// The rows of a query, the first of which is the current one.
+class Recordset : public Object {
+ public:
+  /// Whether there is no current row.
+  [[nodiscard]] virtual bool Eof() = 0;
+  /// The column of that name, found without regard to case; `Failure` 5 where the rows have none.
+  [[nodiscard]] virtual RecordsetField& Fields(const std::string& name) = 0;
+  /// Gives up what was begun and not stored. Allowed any number of times.
+  virtual void Close() = 0;
+};
+
+/// An open database.
+class Database : public Object {
+ public:
+  /// Allowed any number of times.
+  virtual void Close() = 0;
+};
+
+using RecordsetPtr = std::shared_ptr<Recordset>;
+using DatabasePtr = std::shared_ptr<Database>;
+
+/// The data list of the account store, created by name as "storeObj.clsDList". It knows the databases by the names of
+/// its entries, and opens, reads and writes them.
+///
+/// Operations that return a number return 0, or the number of a failure; they raise none.
 class DListComponent : public Object {
  public:
+  /// What a recordset is opened for.
+  enum Mode : std::int16_t { Writing = 0, Reading = 4 };
+  /// The only kind of recordset that the library asks for: one whose rows can be changed.
+  static constexpr std::int16_t kDynamicRows = 2;
+
   virtual void SetNetWorkDListPath(const std::string& path) = 0;
   virtual void SetLocalDListPath(const std::string& path) = 0;
   virtual void SetTimeOutInterval(std::int16_t seconds) = 0;
@@ -64,6 +107,62 @@ class DListComponent : public Object {
   virtual void SetWarningLevel(std::int16_t level) = 0;
   /// The password for the next opening.
   virtual void SetPassword(const std::string& password) = 0;
+  /// The user name for the next opening; set for "ODBC" alone.
+  virtual void SetUserName(const std::string& name) = 0;
+  /// Whether the next opening makes a file database that is missing. Off at creation.
+  virtual void SetMakesMissingFile(bool makes) = 0;
+
+  /// Looks an entry up and fills the four properties below.
+  [[nodiscard]] virtual std::int32_t DgetDLIST(const std::string& sListName, std::int16_t reserved) = 0;
+  /// "ACCESS" for a file database, "ODBC" for a source, in any case of the letters.
+  [[nodiscard]] virtual std::string DBTYPE() = 0;
+  /// The drive letter, the directory and the file name of a file database. The path is drive, ":", directory, file name.
+  [[nodiscard]] virtual std::string DBDRV() = 0;
+  [[nodiscard]] virtual std::string DBDIR() = 0;
+  [[nodiscard]] virtual std::string DBNAME() = 0;
+
+  /// Opens the database of an entry; sets `db` only where it returns 0.
+  [[nodiscard]] virtual std::int32_t DOPEN(const std::string& sListName, std::int16_t reserved, DatabasePtr& db) = 0;
+
+  /// Sets `rs` to the rows of a query on one table. `query` has the form
+  /// `SELECT * FROM [table] WHERE [column] = value AND ...`; names stand in brackets, a text stands in single quotation
+  /// marks with each one inside it doubled, a number stands as it is.
+  [[nodiscard]] virtual std::int32_t CreateDynaWise(const DatabasePtr& db, RecordsetPtr& rs, const std::string& query,
+                                                    std::int16_t kind, const std::string& table, Mode mode) = 0;
+  /// Begins a new row.
+  [[nodiscard]] virtual std::int32_t AddNewDsWise(const RecordsetPtr& rs, std::int16_t kind,
+                                                  const std::string& reserved) = 0;
+  /// Begins a change of the current row.
+  [[nodiscard]] virtual std::int32_t EditDsWise(const RecordsetPtr& rs, std::int16_t kind,
+                                                const std::string& reserved) = 0;
+  /// Stores the row that was begun, whole or not at all.
+  [[nodiscard]] virtual std::int32_t UpdateDsWise(const RecordsetPtr& rs, std::int16_t kind,
+                                                  const std::string& reserved) = 0;
+  /// Deletes the current row.
+  [[nodiscard]] virtual std::int32_t DeleteDsWise(const RecordsetPtr& rs, std::int16_t kind,
+                                                  const std::string& reserved) = 0;
+};
+
+/// The engine of the file databases, for a trial opening and for what lies at a path. Paths have the form that a data
+/// list gives: drive letter, ":", directory, file name.
+class DatabaseEngine {
+ public:
+  DatabaseEngine() = default;
+  DatabaseEngine(const DatabaseEngine&) = delete;
+  DatabaseEngine& operator=(const DatabaseEngine&) = delete;
+  virtual ~DatabaseEngine() = default;
+
+  /// Opens a file database; raises a `Failure` where it cannot be opened.
+  [[nodiscard]] virtual DatabasePtr OpenDatabase(const std::string& path, bool exclusive, bool readOnly,
+                                                 const std::string& connect) = 0;
+  [[nodiscard]] virtual bool FileExists(const std::string& path) = 0;
+};
+
+/// The cipher of the stored password, created by name as "Kesmit.Encryption.CCrypt".
+class EncryptionComponent : public Object {
+ public:
+  /// The plain text. Raises a `Failure` for what is no enciphered text; the failure tells nothing of its content.
+  [[nodiscard]] virtual std::string DecryptString(const std::string& enciphered) = 0;
 };
 
 /// The machine-wide settings store, in the three operations that the library uses.

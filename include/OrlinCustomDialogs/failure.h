@@ -20,7 +20,12 @@ inline constexpr std::int32_t InvalidPropertyValue = 380;  ///< a value that a c
 inline constexpr std::int32_t ObjectRequired = 424;        ///< a value that is no object stands for one
 inline constexpr std::int32_t CannotCreateObject = 429;    ///< no component of that name can be created
 inline constexpr std::int32_t KeyExists = 457;             ///< the key is in the collection already
+inline constexpr std::int32_t DatabaseFull = 3026;         ///< no room to store a row
+inline constexpr std::int32_t DatabaseReadOnly = 3027;     ///< a database does not let itself be changed
 inline constexpr std::int32_t CannotOpenDatabase = 3049;   ///< a database cannot be opened
+inline constexpr std::int32_t NoSuchTable = 3078;          ///< a database lacks the table
+inline constexpr std::int32_t DatabaseCallFailed = 3146;   ///< a call that a database refused, or did not answer
+inline constexpr std::int32_t DatabaseLocked = 3260;       ///< another program keeps the database or the row locked
 }  // namespace failures
 
 /// A failure: a number that tells what went wrong, and a description for people.

@@ -27,8 +27,18 @@ std::string UsualDescription(std::int32_t number) {
       return "Component cannot create object";
     case failures::KeyExists:
       return "The key is in the collection already";
+    case failures::DatabaseFull:
+      return "The database has no room left";
+    case failures::DatabaseReadOnly:
+      return "The database cannot be changed";
     case failures::CannotOpenDatabase:
       return "Cannot open database";
+    case failures::NoSuchTable:
+      return "The database lacks the table";
+    case failures::DatabaseCallFailed:
+      return "A call to the database failed";
+    case failures::DatabaseLocked:
+      return "The database is locked by another program";
     default:
       return "Failure " + std::to_string(number);
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <utility>
 
 #include "OrlinCustomDialogs/failure.h"
@@ -17,6 +18,11 @@ void SkipFailure(Statements&&... statements) {
     }
   };
   (run(statements), ...);
+}
+
+/// Raises what a call returned, where that is the number of a failure.
+inline void RaiseResult(std::int32_t result) {
+  if (result != 0) throw Failure(result);
 }
 
 }  // namespace orlin

@@ -75,7 +75,7 @@ std::int32_t InitApplicationVariables() {
     services.FaultObject->SetWarningLevel(services.WarningLevel);
     services.FaultObject->SetAppErrorFile(std::string(kAppName) + ".err");
 
-    if (const auto failed = InitStoreObj(); failed != 0) throw Failure(failed);
+    RaiseResult(InitStoreObj());
 
     services.Catalogue = Create<LocalTextComponent>("LocalText.clsLocalText");
     return 0;

@@ -31,7 +31,7 @@ void Encode(const ComboBox& list, std::span<const std::int16_t> rawValues, Value
 std::int32_t frmTransceiverConfiguration::Display(std::int16_t vOption, Value& res) {
   DisplaySteps steps;
   steps.Prepare = [&] {
-    if (const auto failed = InitApplicationVariables(); failed != 0) throw Failure(failed);
+    RaiseResult(InitApplicationVariables());
     InitTypes();
     SelectSensitivity(vOption, ToInteger(res));
     SetFrames(vOption);

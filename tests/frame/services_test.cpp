@@ -1,6 +1,7 @@
 #include "frame/services.h"
 
 #include <map>
+#include <tuple>
 
 #include "frame/dialog.h"
 #include "frame/display_protocol.h"
@@ -17,7 +18,7 @@ namespace {
 struct RecordingCatalogue : LocalTextComponent {
   std::string GetLocalTextBASE(std::int16_t id) override {
     if (id == 666) throw Failure(53);
-    return "text " + std::to_string(id);
+    return "text " + std::to_string(id) + (id == 1082 || id == 1084 ? " of %DB_PATH%" : "");
   }
 };
 
@@ -50,6 +51,62 @@ struct RecordingStore : DListComponent {
   void SetWarningLevel(std::int16_t level) override { Calls.push_back("WarningLevel " + std::to_string(level)); }
   void SetPassword(const std::string& password) override {
     Calls.push_back("Password of " + std::to_string(password.size()));
+  }
+  void SetUserName(const std::string& name) override { Calls.push_back("UserName " + name); }
+  void SetMakesMissingFile(bool) override {}
+  std::int32_t DgetDLIST(const std::string& sListName, std::int16_t) override {
+    Calls.push_back("DgetDLIST " + sListName);
+    return GetResult;
+  }
+  std::string DBTYPE() override { return Type; }
+  std::string DBDRV() override { return "C"; }
+  std::string DBDIR() override { return "\\a\\"; }
+  std::string DBNAME() override { return "n.db"; }
+  std::int32_t DOPEN(const std::string& sListName, std::int16_t, DatabasePtr& db) override {
+    Calls.push_back("DOPEN " + sListName);
+    if (OpenResult == 0) db = std::make_shared<NoDatabase>();
+    return OpenResult;
+  }
+  std::int32_t CreateDynaWise(const DatabasePtr&, RecordsetPtr&, const std::string&, std::int16_t, const std::string&,
+                              Mode) override {
+    return 0;
+  }
+  std::int32_t AddNewDsWise(const RecordsetPtr&, std::int16_t, const std::string&) override { return 0; }
+  std::int32_t EditDsWise(const RecordsetPtr&, std::int16_t, const std::string&) override { return 0; }
+  std::int32_t UpdateDsWise(const RecordsetPtr&, std::int16_t, const std::string&) override { return 0; }
+  std::int32_t DeleteDsWise(const RecordsetPtr&, std::int16_t, const std::string&) override { return 0; }
+
+  struct NoDatabase : Database {
+    void Close() override {}
+  };
+  Log& Calls;
+  std::string Type = "access";
+  std::int32_t GetResult = 0;
+  std::int32_t OpenResult = 0;
+};
+
+/// An engine on which one file lies, or none; it opens what lies there where that is a database.
+struct RecordingEngine : DatabaseEngine {
+  explicit RecordingEngine(Log& log) : Calls(log) {}
+  DatabasePtr OpenDatabase(const std::string& path, bool exclusive, bool readOnly,
+                           const std::string& connect) override {
+    Calls.push_back("OpenDatabase " + path + (exclusive ? " exclusive" : "") + (readOnly ? " read-only" : "") +
+                    connect);
+    if (!Opens) throw Failure(failures::DatabaseLocked);
+    return std::make_shared<RecordingStore::NoDatabase>();
+  }
+  bool FileExists(const std::string&) override { return Exists; }
+  Log& Calls;
+  bool Opens = true;
+  bool Exists = true;
+};
+
+/// Half of the text is the plain text.
+struct HalvingCipher : EncryptionComponent {
+  explicit HalvingCipher(Log& log) : Calls(log) {}
+  std::string DecryptString(const std::string& enciphered) override {
+    Calls.emplace_back("DecryptString");
+    return enciphered.substr(0, enciphered.size() / 2);
   }
   Log& Calls;
 };
@@ -164,6 +221,56 @@ TEST_F(ServicesTest, MissingStoreIsLoggedByItsModuleThenShownByTheCaller) {
                         "Add 429 today now modGeneral InitApplicationVariables() 3",
                         "AddlText Component cannot create object", "MsgBox", "LogError"}));
   EXPECT_EQ(Services().Catalogue, nullptr);
+}
+
+TEST_F(ServicesTest, OpensADatabaseByTheTypeOfItsEntry) {
+  constexpr bool trial = true;
+  const Log opened{"DgetDLIST Notes", "Password of 14", "DOPEN Notes"};
+  const auto report = [](const std::string& number, const std::string& message) {
+    return Log{"Add " + number + " today now modStoreObj OpenSecureDB() 3", "AddlText " + message, "LogError"};
+  };
+  const auto after = [](Log first, const Log& then) {
+    first.insert(first.end(), then.begin(), then.end());
+    return first;
+  };
+  const auto tried = Log{"DgetDLIST Notes", "OpenDatabase C:\\a\\n.db read-only"};
+  const struct {
+    const char* Type;
+    std::int32_t GetResult, OpenResult;
+    bool Trial, EngineOpens, FileExists;
+    std::string Password;
+    std::int32_t Result;
+    Log Happened;
+  } cases[] = {
+      {"Access", 0, 0, false, false, true, "", 0, opened},
+      {"ACCESS", 0, 77, false, false, true, "", 77, after(opened, report("77", ""))},
+      {"ACCESS", 0, 77, false, false, false, "", 77, after(opened, report("77", "text 1084 of C:\\a\\n.db"))},
+      {"access", 0, 0, trial, true, true, "", 0, after(tried, {"Password of 14", "DOPEN Notes"})},
+      {"access", 0, 0, trial, false, true, "", 3049, after(tried, report("3049", "text 1082 of C:\\a\\n.db"))},
+      {"odbc", 0, 0, trial, false, true, "", 0, {"DgetDLIST Notes", "UserName me", "Password of 0", "DOPEN Notes"}},
+      {"ODBC", 0, 78, false, true, false, "abcdef", 78,
+       after({"DgetDLIST Notes", "DecryptString", "UserName me", "Password of 3", "DOPEN Notes"}, report("78", ""))},
+      {"", 0, 0, trial, true, true, "", 3049, after({"DgetDLIST Notes"}, report("3049", "text 1082 of "))},
+      {"ACCESS", 9, 0, false, true, true, "", 9, after({"DgetDLIST Notes"}, report("9", ""))},
+  };
+  const auto engine = std::make_shared<RecordingEngine>(Calls);
+  Parts.Engine = engine;
+  Parts.Components["Kesmit.Encryption.CCrypt"] = [this] { return std::make_shared<HalvingCipher>(Calls); };
+  Settings->Values["UserName"] = {SettingsStore::Type::String, "me"};
+  for (const auto& one : cases) {
+    Settings->Values["Password"] = {SettingsStore::Type::String, one.Password};
+    const auto store = std::make_shared<RecordingStore>(Calls);
+    std::tie(store->Type, store->GetResult, store->OpenResult) = std::tuple(one.Type, one.GetResult, one.OpenResult);
+    std::tie(engine->Opens, engine->Exists) = std::tuple(one.EngineOpens, one.FileExists);
+    Parts.Components["storeObj.clsDList"] = [store] { return store; };
+    UsePlatform(Parts);
+    ASSERT_EQ(InitApplicationVariables(), 0);
+    Calls.clear();
+    DatabasePtr db;
+    EXPECT_EQ(OpenSecureDB("Notes", db, one.Trial), one.Result) << one.Type;
+    EXPECT_EQ(db != nullptr, one.Result == 0) << one.Type;
+    EXPECT_EQ(Calls, one.Happened) << one.Type;
+  }
 }
 
 TEST_F(ServicesTest, TextsComeOnDemandAndAgainAfterARelease) {

@@ -1,0 +1,156 @@
+#include "store/stored_rows.h"
+
+#include <algorithm>
+#include <random>
+#include <thread>
+
+#include <strings.h>
+
+namespace orlin {
+namespace {
+
+const Value* ValueOf(const std::vector<std::pair<std::string, Value>>& columns, const std::string& name) {
+  const auto found = std::find_if(columns.begin(), columns.end(), [&](const auto& column) {
+    return strcasecmp(column.first.c_str(), name.c_str()) == 0;
+  });
+  return found == columns.end() ? nullptr : &found->second;
+}
+
+/// So that two programs that met do not meet again.
+void WaitALittle() {
+  static thread_local std::mt19937 random{std::random_device{}()};
+  std::this_thread::sleep_for(std::chrono::milliseconds(std::uniform_int_distribution(1, 20)(random)));
+}
+
+}  // namespace
+
+/// A column, as it was read or as it is about to be written.
+class StoredRows::Field : public RecordsetField {
+ public:
+  Field(StoredRows& rows, std::string name) : rows_(rows), name_(std::move(name)) {}
+
+  orlin::Value Value() override {
+    const auto* value = rows_.begun_ ? ValueOf(*rows_.begun_, name_) : nullptr;
+    if (value == nullptr && rows_.row_) value = ValueOf(*rows_.row_, name_);
+    return value != nullptr ? *value : orlin::Value();
+  }
+
+  void SetValue(const orlin::Value& value) override {
+    if (!rows_.begun_) throw Failure(failures::InvalidCall);
+    rows_.begun_->emplace_back(name_, value);
+  }
+
+ private:
+  StoredRows& rows_;
+  std::string name_;
+};
+
+StoredRows::StoredRows(std::shared_ptr<Connection> connection, Query query, bool writes)
+    : connection_(std::move(connection)), query_(std::move(query)), writes_(writes) {
+  table_ = connection_->Quoted(query_.Table);
+  for (const auto& [column, wanted] : query_.Conditions) {
+    where_.Statement += (where_.Values.empty() ? " WHERE " : " AND ") + connection_->Quoted(column) + " = ?";
+    where_.Values.push_back(wanted);
+  }
+  try {
+    Start();
+  } catch (...) {
+    Close();
+    throw;
+  }
+}
+
+void StoredRows::Start() {
+  if (writes_) {
+    connection_->Begin();
+    inTransaction_ = true;
+  }
+  LookUp();
+}
+
+void StoredRows::LookUp() {
+  row_.reset();
+  if (!connection_->FindTable(query_.Table, writes_)) return;
+  row_ = connection_->FirstRow("SELECT * FROM " + table_ + where_.Statement, where_.Values);
+}
+
+RecordsetField& StoredRows::Fields(const std::string& name) {
+  if (!begun_ && row_ && ValueOf(*row_, name) == nullptr) throw Failure(failures::InvalidCall);
+  auto& field = fields_[name];
+  if (field == nullptr) field = std::make_unique<Field>(*this, name);
+  return *field;
+}
+
+void StoredRows::Close() {
+  if (inTransaction_) connection_->Rollback();
+  inTransaction_ = false;
+  begun_.reset();
+}
+
+void StoredRows::AddNew() {
+  if (!inTransaction_) throw Failure(failures::DatabaseReadOnly);
+  begun_.emplace();
+}
+
+void StoredRows::Edit() {
+  AddNew();
+  if (!row_) throw Failure(failures::InvalidCall);
+}
+
+void StoredRows::Update() {
+  if (!begun_) throw Failure(failures::InvalidCall);
+  const auto columns = *begun_;
+  Store([&] { row_ ? Change(columns) : Insert(columns); });
+  begun_.reset();
+}
+
+void StoredRows::Delete() {
+  if (!inTransaction_) throw Failure(failures::DatabaseReadOnly);
+  if (!row_) throw Failure(failures::InvalidCall);
+  Store([&] { connection_->Execute("DELETE FROM " + table_ + where_.Statement, where_.Values); });
+  row_.reset();
+}
+
+template <class Write>
+void StoredRows::Store(Write write) {
+  const auto end = std::chrono::steady_clock::now() + connection_->Patience();
+  for (bool again = false;; again = true) {
+    try {
+      if (again) Start();
+      write();
+      connection_->Commit();
+      inTransaction_ = false;
+      return;
+    } catch (const WriteConflict&) {
+      if (inTransaction_) connection_->Rollback();
+      inTransaction_ = false;
+      if (std::chrono::steady_clock::now() >= end) throw;
+      WaitALittle();
+    }
+  }
+}
+
+void StoredRows::Insert(const Columns& columns) {
+  std::string names;
+  std::string places;
+  std::vector<Value> values;
+  for (const auto& [name, value] : columns) {
+    names += (values.empty() ? "" : ", ") + connection_->Quoted(name);
+    places += values.empty() ? "?" : ", ?";
+    values.push_back(value);
+  }
+  connection_->Execute("INSERT INTO " + table_ + " (" + names + ") VALUES (" + places + ")", values);
+}
+
+void StoredRows::Change(const Columns& columns) {
+  std::string settings;
+  std::vector<Value> values;
+  for (const auto& [name, value] : columns) {
+    settings += (values.empty() ? "" : ", ") + connection_->Quoted(name) + " = ?";
+    values.push_back(value);
+  }
+  values.insert(values.end(), where_.Values.begin(), where_.Values.end());
+  connection_->Execute("UPDATE " + table_ + " SET " + settings + where_.Statement, values);
+}
+
+}  // namespace orlin

@@ -1,0 +1,161 @@
+#include "notes/frmPanelNotes.h"
+
+#include <optional>
+
+#include "frame/conversions.h"
+#include "frame/display_protocol.h"
+#include "frame/modGeneral.h"
+#include "frame/modStoreObj.h"
+#include "frame/services.h"
+#include "frame/utf8.h"
+
+namespace orlin {
+namespace {
+
+constexpr FaultKind kDisplayFault{.ModuleName = "frmPanelNotes",
+                                  .ProcedureName = "Display()",
+                                  .OnlyWithFaultObject = true,
+                                  .Shows = true,
+                                  .Clears = true};
+
+// The table, and the entry of the data list.
+constexpr const char* kPanelNotes = "PanelNotes";
+// The only kind of note that is written to the store.
+constexpr std::int32_t kStoredNoteType = 3;
+
+constexpr std::string_view kLineEnd = "\r\n";
+
+/// What names the row of one text.
+struct NoteKey {
+  std::string PanelGUID;
+  std::string NoteHeader;
+  std::int32_t NoteTypeID;
+};
+
+/// A value as it stands between the quotation marks of a query: one that holds such marks must not end there.
+std::string Quoted(std::string text) {
+  for (auto at = text.find('\''); at != std::string::npos; at = text.find('\'', at + 2)) text.insert(at, 1, '\'');
+  return text;
+}
+
+std::string QueryFor(const NoteKey& key) {
+  return std::string("SELECT * FROM [") + kPanelNotes + "]" + " WHERE [PanelGUID] = '" + Quoted(key.PanelGUID) + "'" +
+         " AND [NoteHeader] = '" + Quoted(key.NoteHeader) + "'" +
+         " AND [NoteTypeID] = " + std::to_string(key.NoteTypeID);
+}
+
+/// The row of one text in the account store, open as long as this lives.
+class StoredNotes {
+ public:
+  StoredNotes(const NoteKey& key, DListComponent::Mode mode) {
+    // The first note of all makes the file that holds it; where notes are read, a file has to be there.
+    Store().SetMakesMissingFile(mode == DListComponent::Writing);
+    RaiseResult(OpenSecureDB(kPanelNotes, db_, false));
+    try {
+      RaiseResult(Store().CreateDynaWise(db_, rs_, QueryFor(key), kRows, kPanelNotes, mode));
+    } catch (...) {
+      Close();
+      throw;
+    }
+  }
+  StoredNotes(const StoredNotes&) = delete;
+  StoredNotes& operator=(const StoredNotes&) = delete;
+  ~StoredNotes() { Close(); }
+
+  /// An empty text where there is no row.
+  [[nodiscard]] std::string Memo() { return rs_->Eof() ? std::string() : ToText(rs_->Fields("Memo").Value()); }
+
+  void Delete() {
+    if (!rs_->Eof()) RaiseResult(Store().DeleteDsWise(rs_, kRows, ""));
+  }
+
+  void Save(const NoteKey& key, const std::string& memo) {
+    RaiseResult(rs_->Eof() ? Store().AddNewDsWise(rs_, kRows, "") : Store().EditDsWise(rs_, kRows, ""));
+    rs_->Fields("PanelGUID").SetValue(key.PanelGUID);
+    rs_->Fields("NoteHeader").SetValue(key.NoteHeader);
+    rs_->Fields("NoteTypeID").SetValue(key.NoteTypeID);
+    rs_->Fields("Memo").SetValue(memo);
+    RaiseResult(Store().UpdateDsWise(rs_, kRows, ""));
+  }
+
+ private:
+  static constexpr std::int16_t kRows = DListComponent::kDynamicRows;
+
+  static DListComponent& Store() { return *Services().Store; }
+
+  void Close() noexcept {
+    SkipFailure(
+        [this] {
+          if (rs_ != nullptr) rs_->Close();
+        },
+        [this] {
+          if (db_ != nullptr) db_->Close();
+        });
+  }
+
+  DatabasePtr db_;
+  RecordsetPtr rs_;
+};
+
+}  // namespace
+
+frmPanelNotes::frmPanelNotes() {
+  Form.OnActivate = [this] { Form_Activate(); };
+  cmdAddNote.Click = [this] { cmdAddNote_Click(); };
+  cmdDateTime.Click = [this] { cmdDateTime_Click(); };
+}
+
+std::int32_t frmPanelNotes::Display(const std::string& PanelGUID, const std::string& NoteHeader,
+                                    std::int32_t NoteTypeID, std::string& Content, Value& FirstLine, bool IsInMemory) {
+  const NoteKey key{PanelGUID, NoteHeader, NoteTypeID};
+  DisplaySteps steps;
+  steps.Prepare = [&] {
+    RaiseResult(InitApplicationVariables());
+    txtPanelNotes.SetText(IsInMemory ? Content : StoredNotes(key, DListComponent::Reading).Memo());
+    Form.SetCaption(GetLocalText(1378, "TITLE", NoteHeader));
+  };
+  steps.Conclude = [&] {
+    // First, for a store that fails must not cost the operator his text.
+    Content = txtPanelNotes.Text();
+    if (Form.ExitCode() != ExitCode::OK) return kNotConfirmed;
+
+    StoredNotes stored(key, DListComponent::Writing);
+    if (NoteTypeID == kStoredNoteType) {
+      if (Content.empty()) {
+        stored.Delete();
+      } else {
+        stored.Save(key, Content);
+      }
+    }
+    FirstLine = Content.substr(0, Content.find(kLineEnd));
+    return kConfirmed;
+  };
+  steps.Report = [](const Failure& failure) { ReportFault(kDisplayFault, failure, failure.Description()); };
+  return RunDisplay(Form, steps);
+}
+
+void frmPanelNotes::Form_Activate() {
+  SkipFailure([&] { txtNote.SetFocus(); });
+}
+
+void frmPanelNotes::cmdAddNote_Click() {
+  const auto notes = txtPanelNotes.Text();
+  const auto note = txtNote.Text();
+  if (CharacterCount(note) > kMostCharacters - CharacterCount(notes)) {
+    Form.ShowMessage(GetLocalText(1376), Message::OkOnly, GetLocalText(1377));
+    return;
+  }
+  SkipFailure([&] { txtPanelNotes.SetSelStart(CharacterCount(notes)); },
+              [&] {
+                const bool newLine = !notes.empty() && notes.back() != '\n';
+                txtPanelNotes.SetSelText(newLine ? std::string(kLineEnd) + note : note);
+              },
+              [&] { txtNote.SetText(""); }, [&] { txtNote.SetFocus(); });
+}
+
+void frmPanelNotes::cmdDateTime_Click() {
+  SkipFailure([&] { txtNote.SetSelStart(0); }, [&] { txtNote.SetSelText(CurrentClock().DateAndTime() + " - "); },
+              [&] { txtNote.SetFocus(); });
+}
+
+}  // namespace orlin
