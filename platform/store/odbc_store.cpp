@@ -80,8 +80,10 @@ SQLPOINTER AsPointer(SQLULEN number) {
 
 SQLCHAR* Characters(std::string& text) { return reinterpret_cast<SQLCHAR*>(text.data()); }
 
-/// A value of a connection text, whatever is in it.
+/// A value of a connection text, whatever is in it. Braces stand only where they have to: some drivers take them for
+/// a part of a user name.
 std::string Braced(std::string_view value) {
+  if (value.find_first_of("[]{}(),;?*=!@ ") == std::string_view::npos) return std::string(value);
   std::string braced = "{";
   for (const char c : value) braced += c == '}' ? "}}" : std::string(1, c);
   return braced + "}";

@@ -1,0 +1,141 @@
+#include <tuple>
+
+#include <gtest/gtest.h>
+
+#include "OrlinCustomDialogs/failure.h"
+
+#include "cipher/ccrypt.h"
+#include "platform/platform_fixture.h"
+#include "store/data_list.h"
+#include "store/data_list_file.h"
+#include "store/drive_paths.h"
+#include "store/query.h"
+#include "store/utf16.h"
+
+namespace orlin::testing {
+namespace {
+
+using DataListFile = FolderTest;
+
+template <class Call>
+std::int32_t FailureOf(Call call) {
+  try {
+    static_cast<void>(call());
+    return 0;
+  } catch (const Failure& failure) {
+    return failure.Number();
+  }
+}
+
+TEST_F(DataListFile, EntriesAreFoundByNameInAnyCase) {
+  Write("list",
+        "; accounts\n# here\r\n[panelnotes]\ndbtype = Access\nDBDRV=c\nDBDIR=\\a b\\\nDBNAME=n.db\n\n"
+        "[Other]\nDBTYPE=ODBC\nCONNECT=DSN=x;Option==1\n");
+  const auto entries = ReadDataList("list");
+  const auto* notes = FindEntry(entries, "PanelNotes");
+  ASSERT_NE(notes, nullptr);
+  EXPECT_EQ(std::tie(notes->DBTYPE, notes->DBDRV, notes->DBDIR, notes->DBNAME),
+            std::tuple("Access", "c", "\\a b\\", "n.db"));
+  EXPECT_EQ(FindEntry(entries, "OTHER")->CONNECT, "DSN=x;Option==1");
+  EXPECT_EQ(FindEntry(entries, "Panel"), nullptr);
+}
+
+TEST_F(DataListFile, AWrongLineIsToldWithItsNumber) {
+  for (const auto* text :
+       {"\nDBTYPE=ACCESS\n", "[a]\nDBTYPE\n", "[a]\nPASSWORD=x\n", "[a]\n[]\n", "[a]\n[b\n", "[a]\n[A]\n"}) {
+    Write("list", text);
+    try {
+      static_cast<void>(ReadDataList("list"));
+      ADD_FAILURE() << text;
+    } catch (const PlatformError& error) {
+      EXPECT_TRUE(std::string(error.what()).starts_with("list:2: ")) << error.what();
+    }
+  }
+}
+
+TEST_F(DataListFile, TheSettingsMayNameIt) {
+  std::filesystem::create_directory("c");
+  Write("c/local", "[Notes]\nDBTYPE=local\n");
+  Write("network", "[Notes]\nDBTYPE=network\n");
+  const struct {
+    const char* Network;
+    const char* Local;
+    const char* Type;  // empty: the built-in list, which has no such entry
+  } cases[] = {{"network", "C:\\local", "network"}, {"missing", "C:\\local", "local"}, {"", "C:\\missing", ""}};
+  for (const auto& one : cases) {
+    DataList list({{}, std::filesystem::current_path()});
+    list.SetNetWorkDListPath(one.Network);
+    list.SetLocalDListPath(one.Local);
+    EXPECT_EQ(list.DgetDLIST("notes", 0), *one.Type == '\0' ? failures::InvalidCall : 0) << one.Network;
+    EXPECT_EQ(list.DBTYPE(), one.Type);
+  }
+}
+
+TEST(DrivePath, ALetterIsAFolderThatNothingLeaves) {
+  const struct {
+    const char* Path;
+    const char* File;  // null: none
+  } cases[] = {{"C:\\accounts\\notes.db", "/d/c/accounts/notes.db"},
+               {"x:a/b", "/d/x/a/b"},
+               {"C:", "/d/c"},
+               {"C:\\.\\\\a", "/d/c/a"},
+               {"C:\\..\\x", nullptr},
+               {"C:\\a/../../x", nullptr},
+               {"1:\\a", nullptr},
+               {"/etc/passwd", nullptr},
+               {"", nullptr}};
+  for (const auto& one : cases) {
+    EXPECT_EQ(FileAt(one.Path, "/d"),
+              one.File != nullptr ? std::optional(std::filesystem::path(one.File)) : std::nullopt)
+        << one.Path;
+  }
+}
+
+TEST(StoreQuery, ValuesAreTakenOutWhateverIsInThem) {
+  const auto query = ParseQuery(
+      "select * from [Panel Notes] WHERE [a] = 'x'' OR ''1''=''1' AND [b c] = '[]%?\";--' AND [n] = -3 and [e] = ''");
+  EXPECT_EQ(query.Table, "Panel Notes");
+  ASSERT_EQ(query.Conditions.size(), 4U);
+  EXPECT_EQ(query.Conditions[0].Wanted, Value("x' OR '1'='1"));
+  EXPECT_EQ(query.Conditions[1].Column, "b c");
+  EXPECT_EQ(query.Conditions[1].Wanted, Value("[]%?\";--"));
+  EXPECT_EQ(query.Conditions[2].Wanted, Value(std::int32_t{-3}));
+  EXPECT_EQ(query.Conditions[3].Wanted, Value(""));
+  for (const auto* wrong :
+       {"", "SELECT * FROM [a", "SELECT * FROM []", "SELECT * FROM [a] WHERE [b] = 'x' OR [c] = 'y'",
+        "DELETE * FROM [a]", "SELECT * FROM [a] WHERE [b] = 'x",
+        "SELECT * FROM [a] WHERE [b] =", "SELECT * FROM [a]; x", "SELECT * FROM [a] WHERE [b] = 99999999999"}) {
+    EXPECT_EQ(FailureOf([&] { return ParseQuery(wrong); }), failures::InvalidCall) << wrong;
+  }
+}
+
+TEST(Utf16, KeepsEveryCharacterAndRefusesWhatIsNone) {
+  for (const std::string text : {"", "a\r\n", "ü€", "😀 \U0010FFFF", "\x7f\xc2\x80"}) {
+    EXPECT_EQ(Utf8From(Utf16From(text)), text);
+  }
+  EXPECT_EQ(Utf16From("😀"), u"\xD83D\xDE00");
+  EXPECT_EQ(Utf8From(u"\xD83D"), "\xEF\xBF\xBD");
+  for (const std::string wrong : {"\xff", "\xc3", "\xc0\xaf", "\xed\xa0\x80", "\xf4\x90\x80\x80", "\xe2\x28\xa1"}) {
+    EXPECT_EQ(FailureOf([&] { return Utf16From(wrong); }), failures::DatabaseCallFailed) << wrong;
+  }
+}
+
+TEST(CCrypt, GivesBackWhatItHidAndFindsADamagedText) {
+  for (const std::string& plain :
+       {std::string(), std::string("s3cret"), std::string("ü\0\xff", 4), std::string(300, 'x')}) {
+    const auto text = CCrypt::EncryptString(plain);
+    EXPECT_EQ(CCrypt().DecryptString(text), plain);
+    EXPECT_NE(CCrypt::EncryptString(plain), text);
+    EXPECT_EQ(text.find_first_not_of("0123456789abcdef:"), std::string::npos);
+  }
+  const auto text = CCrypt::EncryptString("s3cret");
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    auto damaged = text;
+    damaged[i] = damaged[i] == '7' ? '8' : '7';
+    EXPECT_EQ(FailureOf([&] { return CCrypt().DecryptString(damaged); }), failures::InvalidCall) << i;
+    EXPECT_EQ(FailureOf([&] { return CCrypt().DecryptString(text.substr(0, i)); }), failures::InvalidCall) << i;
+  }
+}
+
+}  // namespace
+}  // namespace orlin::testing

@@ -1,0 +1,374 @@
+#include <atomic>
+#include <csignal>
+#include <functional>
+#include <iostream>
+#include <memory>
+#include <random>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <sys/mman.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "OrlinCustomDialogs/failure.h"
+
+#include "cipher/ccrypt.h"
+#include "store/data_list.h"
+#include "store/odbc_store.h"
+#include "store/sqlite_store.h"
+#include "support/dialog_test.h"
+#include "support/postgres_server.h"
+#include "support/temporary_folder.h"
+
+// The account store on real databases: what one kind of store does, all do.
+
+namespace orlin::testing {
+namespace {
+
+/// Runs while the tests do, once one of them needs it.
+PostgresServer& Server() {
+  static PostgresServer server;
+  return server;
+}
+
+struct Key {
+  std::string Guid = "P1";
+  std::string Header = "Service";
+};
+
+std::string Doubled(std::string text) {
+  for (auto at = text.find('\''); at != std::string::npos; at = text.find('\'', at + 2)) text.insert(at, 1, '\'');
+  return text;
+}
+
+std::string QueryFor(const Key& key) {
+  return "SELECT * FROM [PanelNotes] WHERE [PanelGUID] = '" + Doubled(key.Guid) + "' AND [NoteHeader] = '" +
+         Doubled(key.Header) + "' AND [NoteTypeID] = 3";
+}
+
+/// One program that works on the store, as the notes dialog does.
+class Program {
+ public:
+  explicit Program(DataListPlaces places, std::int16_t patience = 6) : list_(std::move(places)) {
+    list_.SetTimeOutInterval(patience);
+    list_.SetMakesMissingFile(true);
+  }
+  ~Program() { Close(); }
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  std::int32_t Open(const Key& key, DListComponent::Mode mode) {
+    Close();
+    list_.SetUserName(PostgresServer::kUser);
+    list_.SetPassword(PostgresServer::kPassword);
+    if (const auto failed = list_.DOPEN("PanelNotes", 0, db_); failed != 0) return failed;
+    return list_.CreateDynaWise(db_, rs_, QueryFor(key), 2, "PanelNotes", mode);
+  }
+  void Close() {
+    if (rs_ != nullptr) rs_->Close();
+    if (db_ != nullptr) db_->Close();
+    rs_.reset();
+    db_.reset();
+  }
+
+  std::int32_t Begin(const Key& key, const std::string& memo) {
+    const auto failed = rs_->Eof() ? list_.AddNewDsWise(rs_, 2, "") : list_.EditDsWise(rs_, 2, "");
+    if (failed != 0) return failed;
+    rs_->Fields("PanelGUID").SetValue(key.Guid);
+    rs_->Fields("NoteHeader").SetValue(key.Header);
+    rs_->Fields("NoteTypeID").SetValue(std::int32_t{3});
+    rs_->Fields("Memo").SetValue(memo);
+    return 0;
+  }
+  std::int32_t Update() { return list_.UpdateDsWise(rs_, 2, ""); }
+
+  std::int32_t Save(const Key& key, const std::string& memo) {
+    std::int32_t result = Open(key, DListComponent::Writing);
+    if (result == 0) result = Begin(key, memo);
+    if (result == 0) result = Update();
+    Close();
+    return result;
+  }
+  std::int32_t Delete(const Key& key) {
+    const auto failed = Open(key, DListComponent::Writing);
+    return failed != 0 ? failed : list_.DeleteDsWise(rs_, 2, "");
+  }
+  /// Empty where there is no row.
+  Value Read(const Key& key) {
+    EXPECT_EQ(Open(key, DListComponent::Reading), 0);
+    return rs_ == nullptr || rs_->Eof() ? Value() : rs_->Fields("memo").Value();
+  }
+
+ private:
+  DataList list_;
+  DatabasePtr db_;
+  RecordsetPtr rs_;
+};
+
+/// A kind of store: its data list, and a way into it past the store.
+struct Kind {
+  std::string Name;
+  std::function<DataListEntry(const std::filesystem::path& file)> Entry;
+  std::function<std::shared_ptr<Connection>(const DataListEntry& entry, const std::filesystem::path& file)> Connect;
+};
+
+std::shared_ptr<Connection> ConnectByOdbc(const DataListEntry& entry, const std::filesystem::path& /*file*/) {
+  return OpenOdbc(entry.CONNECT, {PostgresServer::kUser, PostgresServer::kPassword});
+}
+
+const Kind kKinds[] = {
+    {"Sqlite", [](const auto&) { return BuiltInDataList()[0]; },
+     [](const auto&, const auto& file) { return OpenSqlite(file, {.MakesMissingFile = true}); }},
+    {"PostgresByOdbc", [](const auto&) { return DataListEntry{"PanelNotes", "ODBC", "", "", "", Server().Connect()}; },
+     ConnectByOdbc},
+    {"SqliteByOdbc",
+     [](const auto& file) {
+       return DataListEntry{"PanelNotes", "odbc", "", "", "", "Driver=SQLite3;Timeout=100;Database=" + file.string()};
+     },
+     ConnectByOdbc}};
+
+class Store : public ::testing::TestWithParam<Kind> {
+ protected:
+  Store() {
+    // No key of the table: what keeps rows from being doubled is the store.
+    auto direct = Direct();
+    direct->Execute("DROP TABLE IF EXISTS \"PanelNotes\"", {});
+    direct->Execute(
+        "CREATE TABLE \"PanelNotes\" (\"PanelGUID\" TEXT, \"NoteHeader\" TEXT, \"NoteTypeID\" INTEGER, "
+        "\"Memo\" TEXT)",
+        {});
+  }
+  [[nodiscard]] std::filesystem::path File() const { return Drives.Path() / "c" / "accounts" / "notes.db"; }
+  [[nodiscard]] std::shared_ptr<Connection> Direct() const {
+    std::filesystem::create_directories(File().parent_path());
+    return GetParam().Connect(Places.Entries->front(), File());
+  }
+  [[nodiscard]] Value Count() const {
+    return Direct()->FirstRow("SELECT count(*) AS n FROM \"PanelNotes\"", {})->at(0).second;
+  }
+
+  const TemporaryFolder Drives;
+  const DataListPlaces Places{DataListEntries{GetParam().Entry(File())}, Drives.Path()};
+  Program One{Places};
+};
+
+INSTANTIATE_TEST_SUITE_P(All, Store, ::testing::ValuesIn(kKinds), [](const auto& kind) { return kind.param.Name; });
+
+TEST_P(Store, EveryValueReachesItsOwnRowAndNoOther) {
+  std::string longest;
+  for (int i = 0; i < 15500; ++i) longest += i % 2 == 0 ? "日" : "😀";
+  const std::vector<std::string> texts{
+      "x", "x' OR '1'='1", "'; DELETE FROM \"PanelNotes\"; --", "[a] % _ ? {fn x} \\ \" :n $1", " \r\n\t\n\r ", "ü€日😀",
+      "",  longest};
+  for (const auto& text : texts) {
+    const Key key{text.substr(0, 200 * 7), "of " + text.substr(0, 200 * 7)};
+    EXPECT_EQ(One.Read(key), Value()) << text;
+    EXPECT_EQ(One.Save(key, text), 0) << text;
+  }
+  for (const auto& text : texts) {
+    const Key key{text.substr(0, 200 * 7), "of " + text.substr(0, 200 * 7)};
+    EXPECT_EQ(One.Read(key), text);
+    EXPECT_EQ(One.Save(key, text + "2"), 0) << text;
+  }
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    const Key key{texts[i].substr(0, 200 * 7), "of " + texts[i].substr(0, 200 * 7)};
+    EXPECT_EQ(One.Read(key), texts[i] + "2");
+    EXPECT_EQ(One.Delete(key), 0);
+    EXPECT_EQ(Count(), static_cast<std::int32_t>(texts.size() - i - 1));
+  }
+}
+
+TEST_P(Store, WhatWasBegunAndNotStoredIsGivenUp) {
+  ASSERT_EQ(One.Save({}, "old"), 0);
+  ASSERT_EQ(One.Open({}, DListComponent::Writing), 0);
+  ASSERT_EQ(One.Begin({}, "new"), 0);
+  One.Close();
+  EXPECT_EQ(One.Read({}), "old");
+  EXPECT_EQ(One.Begin({}, "new"), failures::DatabaseReadOnly) << "opened for reading";
+}
+
+TEST_P(Store, ProgramsThatSaveAtOnceAllEndAndDoubleNoRow) {
+  constexpr int rounds = 20;
+  std::atomic<int> failed = 0;
+  const auto save = [&](const std::string& memo) {
+    Program program(Places, 30);
+    for (int i = 0; i < rounds; ++i) {
+      if (program.Save({"P" + std::to_string(i), "Service"}, memo) != 0) ++failed;
+    }
+  };
+  std::thread other(save, "a");
+  save("b");
+  other.join();
+  EXPECT_EQ(failed, 0);
+  EXPECT_EQ(Count(), rounds);
+}
+
+TEST_P(Store, ATableThatIsMissingForGoodIsTold) {
+  ASSERT_EQ(One.Open({}, DListComponent::Reading), 0);
+  DataList list(Places);
+  list.SetUserName(PostgresServer::kUser);
+  list.SetPassword(PostgresServer::kPassword);
+  DatabasePtr db;
+  ASSERT_EQ(list.DOPEN("PanelNotes", 0, db), 0);
+  RecordsetPtr rs;
+  const auto open = [&](const char* query) {
+    return list.CreateDynaWise(db, rs, query, 2, "", DListComponent::Reading);
+  };
+  EXPECT_NE(open("SELECT * FROM [Panels]"), 0);
+  EXPECT_EQ(open("SELECT * FROM [PanelNotes]; x"), failures::InvalidCall);
+  EXPECT_EQ(list.CreateDynaWise(nullptr, rs, QueryFor({}), 2, "", DListComponent::Reading), failures::NoObject);
+  EXPECT_EQ(list.UpdateDsWise(nullptr, 2, ""), failures::NoObject);
+}
+
+class SqliteFile : public ::testing::Test {
+ protected:
+  std::filesystem::path File = Drives().Path() / "c" / "accounts" / "notes.db";
+  DataListPlaces Places{{}, Drives().Path()};
+
+  const TemporaryFolder& Drives() {
+    if (drives_ == nullptr) drives_ = std::make_unique<TemporaryFolder>();
+    return *drives_;
+  }
+
+ private:
+  static inline std::unique_ptr<TemporaryFolder> drives_;
+
+ public:
+  ~SqliteFile() override { drives_.reset(); }
+};
+
+TEST_F(SqliteFile, IsMadeForItsOwnerOnlyAndOnlyWhereAsked) {
+  DataList list(Places);
+  DatabasePtr db;
+  EXPECT_EQ(list.DOPEN("PanelNotes", 0, db), failures::CannotOpenDatabase);
+  EXPECT_FALSE(std::filesystem::exists(Drives().Path() / "c"));
+  EXPECT_EQ(Program(Places).Save({}, "a"), 0);
+  using std::filesystem::perms;
+  EXPECT_EQ(std::filesystem::status(File).permissions(), perms::owner_read | perms::owner_write);
+  EXPECT_EQ(std::filesystem::status(File.parent_path()).permissions(), perms::owner_all);
+  // An empty file is a database without the table.
+  std::filesystem::resize_file(File, 0);
+  EXPECT_EQ(Program(Places).Read({}), Value());
+}
+
+TEST_F(SqliteFile, EachFailureHasItsNumberAndLeavesTheRow) {
+  ASSERT_EQ(Program(Places).Save({}, "old"), 0);
+  {
+    auto other = OpenSqlite(File, {});
+    other->Begin();
+    EXPECT_EQ(Program(Places, 1).Save({}, "new"), failures::DatabaseLocked);
+    EXPECT_EQ(Program(Places).Read({}), "old") << "readers do not wait";
+    other->Rollback();
+  }
+  std::fstream file(File, std::ios::binary | std::ios::in | std::ios::out);
+  constexpr std::streamoff writeVersion = 18;
+  file.seekp(writeVersion).put('\x7').flush();  // as a later SQLite marks a file that this one may read only
+  EXPECT_EQ(Program(Places).Save({}, "new"), failures::DatabaseReadOnly);
+  EXPECT_EQ(Program(Places).Read({}), "old");
+  file.seekp(writeVersion).put('\x1').flush();
+
+  std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit small{std::filesystem::file_size(File), RLIM_INFINITY};
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+  const auto noRoom = Program(Places).Save({}, std::string(100000, 'x'));
+  const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &none), 0);
+  EXPECT_TRUE(noRoom == failures::DatabaseFull || noRoom == failures::DatabaseCallFailed) << noRoom;
+  EXPECT_EQ(Program(Places).Read({}), "old");
+
+  file.seekp(0) << "no database at all";
+  file.flush();
+  EXPECT_EQ(Program(Places).Save({}, "new"), failures::CannotOpenDatabase);
+}
+
+/// One row that a child saves over and over, two texts in turn; the child is killed at any moment.
+TEST_F(SqliteFile, AKilledProgramLeavesTheOldOrTheNewRowWhole) {
+  constexpr int kills = 200;
+  const std::string texts[] = {std::string(15500, 'a'), std::string(15500, 'b')};
+  ASSERT_EQ(Program(Places).Save({}, texts[0]), 0);
+  void* const shared =
+      mmap(nullptr, sizeof(std::atomic<int>), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+  ASSERT_NE(shared, MAP_FAILED);
+  auto* const saves = new (shared) std::atomic<int>(0);
+  std::mt19937 random(1);
+  std::uniform_int_distribution moment(500, 40000);
+  for (int i = 0; i < kills; ++i) {
+    const auto child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+      Program program(Places);
+      for (int next = 0;; ++next) {
+        if (program.Save({}, texts[next % 2]) != 0) _exit(1);
+        ++*saves;
+      }
+    }
+    std::this_thread::sleep_for(std::chrono::microseconds(moment(random)));
+    ASSERT_EQ(kill(child, SIGKILL), 0);
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status)) << "the child could not save";
+    const auto row = Program(Places).Read({});
+    ASSERT_TRUE(row == texts[0] || row == texts[1]) << "after kill " << i;
+  }
+  std::cout << kills << " kills during " << *saves << " saves: every row whole\n";
+  EXPECT_GT(*saves, kills);
+  EXPECT_EQ(*OpenSqlite(File, {})->FirstRow("PRAGMA integrity_check", {})->at(0).second.Get<std::string>(), "ok");
+  munmap(shared, sizeof(std::atomic<int>));
+}
+
+/// The notes dialog on a server, with the user and the password of the settings.
+class NotesOnAServer : public ::testing::Test {
+ protected:
+  NotesOnAServer() {
+    auto direct = OpenOdbc(Server().Connect(), {PostgresServer::kUser, PostgresServer::kPassword});
+    direct->Execute("DROP TABLE IF EXISTS \"PanelNotes\"", {});
+    direct->Execute(
+        "CREATE TABLE \"PanelNotes\" (\"PanelGUID\" varchar(255), \"NoteHeader\" varchar(255), "
+        "\"NoteTypeID\" integer, \"Memo\" text, PRIMARY KEY (\"PanelGUID\", \"NoteHeader\", \"NoteTypeID\"))",
+        {});
+  }
+  static DialogRun Open(const std::string& password, const std::string& script, bool isInMemory = false) {
+    PlayOptions options;
+    options.DataList = "[PanelNotes]\nDBTYPE=ODBC\nCONNECT=" + Server().Connect() + "\n";
+    options.Settings = std::string("[HKEY_LOCAL_MACHINE\\Software\\Varnek\\Tolmar\\Setup]\n\"WarningLevel\"=\"0\"\n") +
+                       "\"UserName\"=\"" + PostgresServer::kUser + "\"\n\"Password\"=\"" + password + "\"\n";
+    return Play("clsPanelNotes",
+                {"PanelGUID=P1", "NoteHeader=\"d'accord\"", "NoteTypeID=3",
+                 isInMemory ? "IsInMemory=true" : "IsInMemory=false"},
+                script, options);
+  }
+  const std::string Password = CCrypt::EncryptString(PostgresServer::kPassword);
+};
+
+TEST_F(NotesOnAServer, AreStoredAndReadBack) {
+  EXPECT_EQ(Open(Password, "type txtNote \"Zähler\"\nclick cmdAddNote\nclick cmdOK").Result, 0);
+  EXPECT_EQ(Open(Password, "close").Argument("Content"), "Zähler");
+}
+
+TEST_F(NotesOnAServer, AFailureTellsNothingOfThePassword) {
+  for (const auto& password : {CCrypt::EncryptString("wr0ng-secret"), std::string("1:nonsense-secret")}) {
+    const auto run = Open(password, "answer 1\nclose");
+    EXPECT_EQ(run.Result, password[2] == 'n' ? failures::InvalidCall : failures::CannotOpenDatabase);
+    for (const auto& line : run.Lines) EXPECT_EQ(line.dump().find("secret"), std::string::npos) << line;
+  }
+}
+
+TEST_F(NotesOnAServer, AServerThatGoesAwayLeavesTheTextToTheHost) {
+  Program program({DataListEntries{{"PanelNotes", "ODBC", "", "", "", Server().Connect()}}, {}}, 1);
+  ASSERT_EQ(program.Open({}, DListComponent::Writing), 0);
+  ASSERT_EQ(program.Begin({}, "new"), 0);
+  Server().Stop();
+  EXPECT_EQ(program.Update(), failures::DatabaseCallFailed);
+  program.Close();
+  const auto run = Open(Password, "answer 1\nclick cmdOK", true);
+  EXPECT_EQ(run.Result, failures::CannotOpenDatabase);
+  Server().Start();
+  EXPECT_EQ(Open(Password, "close").Result, 1);
+}
+
+}  // namespace
+}  // namespace orlin::testing
