@@ -45,7 +45,7 @@ Platform StandardPlatform(const StandardPlatformOptions& options) {
   platform.Engine = std::make_shared<FileDatabaseEngine>(drives);
 
   platform.Components["LocalText.clsLocalText"] = [texts = ReadTexts(options.CatalogueFile),
-                                                    &language = LanguageOf(options.Language.value_or("en"))] {
+                                                   &language = LanguageOf(options.Language.value_or("en"))] {
     return std::make_shared<TextCatalogue>(texts, language);
   };
   platform.Components["FaultObject.clsFaultObject"] =

@@ -1,6 +1,5 @@
-#include <set>
-
-#include "OrlinCustomDialogs/keys.h"
+#include <algorithm>
+#include <functional>
 
 #include "catalogue/catalogue_file.h"
 #include "catalogue/text_catalogue.h"
@@ -52,37 +51,34 @@ TEST_F(CatalogueFile, HasToBeReadable) {
   }
 }
 
-TEST(TextCatalogue, ReplacesEnglishTextByText) {
+TEST(TextCatalogue, ReplacesTextByText) {
   TextCatalogue catalogue(std::make_shared<const TextTable>(TextTable{{101, "Gut"}, {262, ""}, {9, "Neun"}}));
   const std::map<std::int16_t, std::string> cases = {{101, "Gut"}, {262, ""}, {9, "Neun"}, {119, "Cancel"}, {-1, ""},
                                                      {0, ""},      {100, ""}, {102, ""},   {32767, ""}};
   for (const auto& [number, text] : cases) EXPECT_EQ(catalogue.GetLocalTextBASE(number), text) << number;
 }
 
-TEST(EnglishTexts, AreThereForEveryNumberInUse) {
-  const std::pair<std::int16_t, std::int16_t> ranges[] = {
-      {101, 101},   {119, 119},   {234, 234},   {262, 262},   {395, 395},   {1082, 1082}, {1084, 1084},
-      {1192, 1192}, {1234, 1234}, {1388, 1391}, {1720, 1737}, {1743, 1748}, {1750, 1785}, {10560, 10560}};
-  for (const auto& [first, last] : ranges) {
-    for (auto number = first; number <= last; ++number)
-      EXPECT_NE(TextCatalogue().GetLocalTextBASE(number), "") << number;
-  }
+TEST(TextCatalogue, SpeaksTheLanguageAndFallsBackTextByText) {
+  const CompiledText other[] = {{101, "Other"}};
+  TextCatalogue catalogue(std::make_shared<const TextTable>(TextTable{{262, "Replaced"}}), {"xx", other});
+  const std::map<std::int16_t, std::string> cases = {{101, "Other"}, {119, "Cancel"}, {262, "Replaced"}, {100, ""}};
+  for (const auto& [number, text] : cases) EXPECT_EQ(catalogue.GetLocalTextBASE(number), text) << number;
+  EXPECT_EQ(TextCatalogue(nullptr, LanguageOf("de")).GetLocalTextBASE(119), "Abbrechen");
 }
 
-TEST(EnglishTexts, HoldTheVariablesThatDialogsFillIn) {
-  const std::map<std::int16_t, const char*> markers = {
-      {1082, "%DB_PATH%"}, {1084, "%DB_PATH%"}, {1192, "%ITEM%"}, {1750, "%ZONE%"}};
-  for (const auto& [number, marker] : markers) {
-    EXPECT_NE(TextCatalogue().GetLocalTextBASE(number).find(marker), std::string::npos) << number;
-  }
+TEST(LanguageOf, TakesTheNamesOfLocales) {
+  const std::map<std::string, const char*> cases = {
+      {"de", "de"}, {"de_DE.UTF-8", "de"}, {"de-AT", "de"}, {"DE", "de"}, {"de@euro", "de"}, {"de.UTF-8", "de"},
+      {"en", "en"}, {"en_US.UTF-8", "en"}, {"C", "en"},     {"", "en"},   {"C.UTF-8", "en"}, {"POSIX", "en"},
+      {"xx", "en"}, {"deu", "en"},         {"d", "en"},     {".", "en"},  {"_DE", "en"}};
+  for (const auto& [name, language] : cases) EXPECT_EQ(LanguageOf(name).Name, language) << name;
 }
 
-TEST(EnglishTexts, GiveEachLabelOfADialogAnAccessKeyOfItsOwn) {
-  const std::vector<std::int16_t> dialogs[] = {{234, 1721, 1722}, {1388, 1389, 1390, 1391}};
-  for (const auto& labels : dialogs) {
-    std::set<char32_t> keys = {0};
-    for (const auto number : labels) keys.insert(AccessKey(TextCatalogue().GetLocalTextBASE(number)));
-    EXPECT_EQ(keys.size(), labels.size() + 1) << labels.front();
+TEST(Languages, HoldTheirTextsInOrder) {
+  for (const auto& language : Languages()) {
+    EXPECT_FALSE(language.Texts.empty()) << language.Name;
+    EXPECT_TRUE(std::ranges::is_sorted(language.Texts, std::less_equal(), &CompiledText::Number)) << language.Name;
+    for (const auto& [number, text] : language.Texts) EXPECT_EQ(language.Find(number), text);
   }
 }
 

@@ -46,6 +46,16 @@ TEST_F(StandardPlatformTest, ReadsEachFileOnce) {
   EXPECT_TRUE(platform.Settings->RegOpenKeyA(SettingsStore::Hive::LocalMachine, "a"));
 }
 
+TEST_F(StandardPlatformTest, SpeaksTheLanguageOfTheOptions) {
+  const std::pair<std::optional<std::string>, const char*> cases[] = {
+      {std::nullopt, "Cancel"}, {"de_DE.UTF-8", "Abbrechen"}, {"xx", "Cancel"}};
+  for (const auto& [language, text] : cases) {
+    Options.Language = language;
+    const auto made = StandardPlatform(Options).Components.at("LocalText.clsLocalText")();
+    EXPECT_EQ(std::dynamic_pointer_cast<LocalTextComponent>(made)->GetLocalTextBASE(119), text);
+  }
+}
+
 TEST_F(StandardPlatformTest, TellsWhatCannotBeUsed) {
   const std::pair<std::optional<std::filesystem::path> StandardPlatformOptions::*, const char*> files[] = {
       {&StandardPlatformOptions::CatalogueFile, "texts"},

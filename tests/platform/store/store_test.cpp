@@ -1,4 +1,5 @@
 #include <atomic>
+#include <chrono>
 #include <csignal>
 #include <functional>
 #include <iostream>
@@ -55,6 +56,7 @@ class Program {
  public:
   explicit Program(DataListPlaces places, std::int16_t patience = 6) : list_(std::move(places)) {
     list_.SetTimeOutInterval(patience);
+    list_.SetMaxTimeOut(patience);
     list_.SetMakesMissingFile(true);
   }
   ~Program() { Close(); }
@@ -85,6 +87,7 @@ class Program {
     return 0;
   }
   std::int32_t Update() { return list_.UpdateDsWise(rs_, 2, ""); }
+  RecordsetField& Field(const std::string& name) { return rs_->Fields(name); }
 
   std::int32_t Save(const Key& key, const std::string& memo) {
     std::int32_t result = Open(key, DListComponent::Writing);
@@ -139,7 +142,7 @@ class Store : public ::testing::TestWithParam<Kind> {
     direct->Execute("DROP TABLE IF EXISTS \"PanelNotes\"", {});
     direct->Execute(
         "CREATE TABLE \"PanelNotes\" (\"PanelGUID\" TEXT, \"NoteHeader\" TEXT, \"NoteTypeID\" INTEGER, "
-        "\"Memo\" TEXT)",
+        "\"Memo\" TEXT CHECK (\"Memo\" <> 'refused'))",
         {});
   }
   [[nodiscard]] std::filesystem::path File() const { return Drives.Path() / "c" / "accounts" / "notes.db"; }
@@ -189,6 +192,39 @@ TEST_P(Store, WhatWasBegunAndNotStoredIsGivenUp) {
   One.Close();
   EXPECT_EQ(One.Read({}), "old");
   EXPECT_EQ(One.Begin({}, "new"), failures::DatabaseReadOnly) << "opened for reading";
+}
+
+TEST_P(Store, TheLastValueOfAFieldCounts) {
+  for (const std::string memo : {"new row", "changed row"}) {
+    ASSERT_EQ(One.Open({}, DListComponent::Writing), 0);
+    ASSERT_EQ(One.Begin({}, "first"), 0);
+    One.Field("Memo").SetValue(memo);
+    EXPECT_EQ(One.Field("MEMO").Value(), memo);
+    EXPECT_EQ(One.Update(), 0);
+    EXPECT_EQ(One.Read({}), memo);
+  }
+  EXPECT_EQ(One.Field("NOTETYPEID").Value(), std::int32_t{3});
+  EXPECT_THROW(One.Field("Notes"), Failure);
+}
+
+TEST_P(Store, ALockThatStandsIsToldAfterTheTimeOut) {
+  ASSERT_EQ(One.Save({}, "old"), 0);
+  const auto other = Direct();
+  other->Begin();
+  other->Execute("UPDATE \"PanelNotes\" SET \"Memo\" = ?", {"other"});
+  EXPECT_EQ(Program(Places, 1).Save({}, "new"), failures::DatabaseLocked);
+  other->Rollback();
+  EXPECT_EQ(One.Read({}), "old");
+}
+
+TEST_P(Store, WhatTheDatabaseWillNeverTakeIsRefusedAtOnce) {
+  ASSERT_EQ(One.Save({}, "old"), 0);
+  const std::string withZero("a\0b", 3);
+  const bool taken = One.Save({}, withZero) == 0;
+  EXPECT_EQ(One.Read({}), taken ? withZero : "old") << "never cut";
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(One.Save({}, "refused"), failures::DatabaseCallFailed);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3));
 }
 
 TEST_P(Store, ProgramsThatSaveAtOnceAllEndAndDoubleNoRow) {
@@ -277,7 +313,7 @@ TEST_F(SqliteFile, EachFailureHasItsNumberAndLeavesTheRow) {
   const auto noRoom = Program(Places).Save({}, std::string(100000, 'x'));
   const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
   ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &none), 0);
-  EXPECT_TRUE(noRoom == failures::DatabaseFull || noRoom == failures::DatabaseCallFailed) << noRoom;
+  EXPECT_EQ(noRoom, failures::DatabaseFull);
   EXPECT_EQ(Program(Places).Read({}), "old");
 
   file.seekp(0) << "no database at all";
