@@ -10,7 +10,7 @@
 
 #include "OrlinCustomDialogs/value.h"
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// The text catalogue, created by name as "LocalText.clsLocalText".
 class LocalTextComponent : public Object {
@@ -116,7 +116,8 @@ class DListComponent : public Object {
   [[nodiscard]] virtual std::int32_t DgetDLIST(const std::string& sListName, std::int16_t reserved) = 0;
   /// "ACCESS" for a file database, "ODBC" for a source, in any case of the letters.
   [[nodiscard]] virtual std::string DBTYPE() = 0;
-  /// The drive letter, the directory and the file name of a file database. The path is drive, ":", directory, file name.
+  /// The drive letter, the directory and the file name of a file database. The path is drive, ":", directory, file
+  /// name.
   [[nodiscard]] virtual std::string DBDRV() = 0;
   [[nodiscard]] virtual std::string DBDIR() = 0;
   [[nodiscard]] virtual std::string DBNAME() = 0;

@@ -13,10 +13,14 @@
 #include "OrlinCustomDialogs/failure.h"
 #include "OrlinCustomDialogs/keys.h"
 
+// Private to the library: declared apart, for the namespace below exports whatever it declares.
 namespace orlin {
-
 class AnyControl;
 class Dialog;
+}  // namespace orlin
+
+namespace [[using gnu: visibility("default")]] orlin {
+
 class DialogHost;
 
 enum class ControlKind {

@@ -8,7 +8,7 @@
 #include "OrlinCustomDialogs/controls.h"
 #include "OrlinCustomDialogs/failure.h"
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// A message box, as the library asks for it.
 struct Message {

@@ -10,15 +10,14 @@ extern "C" {
 
 /// Hands out the class of that name, "OrlinCustomDialogs.clsZoneFunctionsWillow"; 429 and null where there is none.
 /// The class belongs to the library and lives as long as it is loaded.
-__attribute__((visibility("default"))) std::int32_t DllGetClassObject(const char* name,
-                                                                      const orlin::PublicClass** classObject);
+[[gnu::visibility("default")]] std::int32_t DllGetClassObject(const char* name, const orlin::PublicClass** classObject);
 
 /// 0 when the library can be unloaded, 1 while a host holds an object of a public class created by name.
-__attribute__((visibility("default"))) std::int32_t DllCanUnloadNow();
+[[gnu::visibility("default")]] std::int32_t DllCanUnloadNow();
 
 /// Registers every public class as "OrlinCustomDialogs.<class>", so that `CreateObject` makes it.
-__attribute__((visibility("default"))) std::int32_t DllRegisterServer();
+[[gnu::visibility("default")]] std::int32_t DllRegisterServer();
 
 /// Takes the registrations back.
-__attribute__((visibility("default"))) std::int32_t DllUnregisterServer();
+[[gnu::visibility("default")]] std::int32_t DllUnregisterServer();
 }

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// The numbers of the failures that the library itself raises. All lie above 2, so that a result of
 /// `Display` never takes a failure for an outcome. A component of the host may raise any other number.

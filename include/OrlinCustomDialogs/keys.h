@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// The numbers of keys, as `KeyDown` handlers get them. Letters and digits have the number of their capital.
 namespace keys {

@@ -14,7 +14,7 @@
 // A host may make such lists by itself, copy them, and carry them as values. A serialised element or list is an array
 // whose first index is 1; an element in it keeps its kind.
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// An ordered collection. An element may have a key, which is unique in the collection without regard to case (of the
 /// letters A to Z). Elements are shared: what `Item` gives out is the element in the list, and a change to it shows

@@ -7,7 +7,7 @@
 
 // The notes of a panel.
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// Shows the running notes of a panel and lets the operator add to them. The notes are a row of the table "PanelNotes"
 /// in the database that the data list names "PanelNotes", or a text that the host holds in memory.

@@ -11,7 +11,7 @@
 // 13 for `SecurityLevels` that are no collection, 5 for a collection with records but without "AuthorityLevel". On any
 // outcome but 0 the arguments stay as they came. A part that is hidden or disabled keeps its value.
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// Edits how a panel responds to a phone line fault.
 class clsPhoneOptions_Pine {

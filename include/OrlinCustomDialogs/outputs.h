@@ -14,7 +14,7 @@
 // unless a class says otherwise; after one of these two failures some hold new values. A part that is hidden or
 // disabled keeps its value.
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// Edits one relay of a Birch octal relay module.
 ///

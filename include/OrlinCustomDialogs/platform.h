@@ -7,7 +7,7 @@
 #include "OrlinCustomDialogs/components.h"
 #include "OrlinCustomDialogs/dialog_host.h"
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// Everything that the library asks of the program around it.
 struct Platform {

@@ -9,7 +9,7 @@
 
 #include "OrlinCustomDialogs/value.h"
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// What a parameter of `Display` takes.
 enum class ParameterKind {

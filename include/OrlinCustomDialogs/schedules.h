@@ -6,7 +6,7 @@
 
 // Editors of schedule entries (skeds) and times.
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// Edits one sked of a Willow panel: when it runs and what it does. Use it as `clsSkedFunc_WillowDuo` or
 /// `clsSkedFunc_WillowAce`.

@@ -7,7 +7,7 @@
 
 #include "OrlinCustomDialogs/value.h"
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// What one part of a parameter requires of the operator, or, under the name "AuthorityLevel", what he has.
 struct SecurityLevel {

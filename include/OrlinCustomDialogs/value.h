@@ -9,7 +9,7 @@
 #include <variant>
 #include <vector>
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 class Value;
 

@@ -7,7 +7,7 @@
 
 // Verification of whole accounts.
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// Reviews the parameters of an account that lie outside the ranges of SIA CP-01, the standard for the reduction of
 /// false alarms, and lets the operator correct them or give up compliance. Also the record of one kind of parameter.

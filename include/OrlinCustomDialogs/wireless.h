@@ -11,7 +11,7 @@
 // that is too short, 424 or 13 for `SecurityLevels` that are no collection. On any outcome but 0 the arguments stay as
 // they came.
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// Edits what kind of device stands on a wireless input.
 class clsWSNDeviceTypeInput {

@@ -6,7 +6,7 @@
 
 // Editors of zone functions and point codes.
 
-namespace orlin {
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// Edits the four-digit function code of a zone of the Willow panels.
 ///

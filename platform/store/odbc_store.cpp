@@ -42,13 +42,14 @@ Diagnosis DiagnosisOf(SQLSMALLINT type, SQLHANDLE handle) {
   constexpr SQLINTEGER sqliteReadOnly = 8;
   constexpr SQLINTEGER sqliteFull = 13;
   const bool serialization = state.starts_with("40");
-  const bool doubled = state.starts_with("23");
+  const bool doubled = state == "23505" || state == "23000";  // others of the class are not mended by a new lookup
   if (serialization || doubled) throw WriteConflict();
   // The driver of SQLite has one state for everything.
   if (isSqlite && (diagnosis.Native == sqliteBusy || diagnosis.Native == sqliteLocked)) throw WriteConflict();
   if (isSqlite && diagnosis.Native == sqliteReadOnly) throw Failure(failures::DatabaseReadOnly);
   if (isSqlite && diagnosis.Native == sqliteFull) throw Failure(failures::DatabaseFull);
-  if (state == "55P03" || state == "HYT00") throw Failure(failures::DatabaseLocked);
+  // A statement that runs out of its time waited for another program: each is about one row.
+  if (state == "55P03" || state == "HYT00" || state == "57014") throw Failure(failures::DatabaseLocked);
   if (state == "25006" || state.starts_with("42501")) throw Failure(failures::DatabaseReadOnly);
   if (state.starts_with("53")) throw Failure(failures::DatabaseFull);
   if (state == "42S02" || state == "42P01") throw Failure(failures::NoSuchTable);
@@ -109,6 +110,8 @@ class BoundValues {
   static void Bind(SQLHANDLE statement, SQLUSMALLINT place, const Value& value, Held& held) {
     SQLRETURN bound = SQL_ERROR;
     if (const auto* text = value.Get<std::string>()) {
+      // Drivers end a text there, without a word.
+      if (text->find('\0') != std::string::npos) throw Failure(failures::DatabaseCallFailed);
       held.Text = Utf16From(*text);
       const auto length = held.Text.size();
       held.Bytes = static_cast<SQLLEN>(length * sizeof(char16_t));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 
 #include <fcntl.h>
 #include <sqlite3.h>
@@ -47,6 +48,19 @@ void Check(int code) {
   if (code != SQLITE_OK && code != SQLITE_ROW && code != SQLITE_DONE) throw Failure(FailureOf(code));
 }
 
+/// For SQLite, a quota or a limit of files is not a disk that is full; for who saves a row, it is.
+void CheckStep(int code, sqlite3* database) {
+  if ((code & 0xff) == SQLITE_IOERR) {
+    int ofFile = 0;
+    sqlite3_file_control(database, "main", SQLITE_FCNTL_LAST_ERRNO, &ofFile);
+    const int ofJournal = sqlite3_system_errno(database);
+    for (const int limit : {EDQUOT, EFBIG}) {
+      if (ofFile == limit || ofJournal == limit) throw Failure(failures::DatabaseFull);
+    }
+  }
+  Check(code);
+}
+
 struct CloseDatabase {
   void operator()(sqlite3* database) const { sqlite3_close_v2(database); }
 };
@@ -58,7 +72,8 @@ using StatementHandle = std::unique_ptr<sqlite3_stmt, CloseStatement>;
 
 /// Makes the folders that are missing, for their owner only.
 void MakeFolders(const std::filesystem::path& folder) {
-  if (folder.empty() || std::filesystem::exists(folder)) return;
+  std::error_code unreachable;
+  if (folder.empty() || std::filesystem::exists(folder, unreachable)) return;
   MakeFolders(folder.parent_path());
   if (mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST) throw Failure(failures::CannotOpenDatabase);
 }
@@ -106,7 +121,7 @@ class SqliteConnection : public Connection {
   std::optional<Row> FirstRow(const std::string& statement, const std::vector<Value>& values) override {
     const auto prepared = Prepare(statement, values);
     const int code = sqlite3_step(prepared.get());
-    Check(code);
+    CheckStep(code, database_.get());
     if (code == SQLITE_DONE) return std::nullopt;
     Row row;
     for (int i = 0; i < sqlite3_column_count(prepared.get()); ++i) {
@@ -116,7 +131,8 @@ class SqliteConnection : public Connection {
   }
 
   void Execute(const std::string& statement, const std::vector<Value>& values) override {
-    Check(sqlite3_step(Prepare(statement, values).get()));
+    const auto prepared = Prepare(statement, values);
+    CheckStep(sqlite3_step(prepared.get()), database_.get());
   }
 
   void Close() override { database_.reset(); }
@@ -173,6 +189,8 @@ std::shared_ptr<Connection> OpenSqlite(const std::filesystem::path& file, const 
   Check(sqlite3_exec(opened, "PRAGMA synchronous = EXTRA", nullptr, nullptr, nullptr));
   // SQLite opens a file of any content; the first look into it tells whether it is a database.
   Check(sqlite3_exec(opened, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr));
+  // Where it had another journal and nobody else uses it; a commit is safe with either.
+  if (!options.ReadOnly) sqlite3_exec(opened, "PRAGMA journal_mode = DELETE", nullptr, nullptr, nullptr);
   return std::make_shared<SqliteConnection>(std::move(database), options.Patience);
 }
 

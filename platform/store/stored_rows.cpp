@@ -9,11 +9,13 @@
 namespace orlin {
 namespace {
 
-const Value* ValueOf(const std::vector<std::pair<std::string, Value>>& columns, const std::string& name) {
-  const auto found = std::find_if(columns.begin(), columns.end(), [&](const auto& column) {
-    return strcasecmp(column.first.c_str(), name.c_str()) == 0;
-  });
-  return found == columns.end() ? nullptr : &found->second;
+bool SameColumn(const std::string& a, const std::string& b) { return strcasecmp(a.c_str(), b.c_str()) == 0; }
+
+const std::pair<std::string, Value>* ColumnNamed(const std::vector<std::pair<std::string, Value>>& columns,
+                                                 const std::string& name) {
+  const auto found =
+      std::find_if(columns.begin(), columns.end(), [&](const auto& column) { return SameColumn(column.first, name); });
+  return found == columns.end() ? nullptr : &*found;
 }
 
 /// So that two programs that met do not meet again.
@@ -30,13 +32,14 @@ class StoredRows::Field : public RecordsetField {
   Field(StoredRows& rows, std::string name) : rows_(rows), name_(std::move(name)) {}
 
   orlin::Value Value() override {
-    const auto* value = rows_.begun_ ? ValueOf(*rows_.begun_, name_) : nullptr;
-    if (value == nullptr && rows_.row_) value = ValueOf(*rows_.row_, name_);
-    return value != nullptr ? *value : orlin::Value();
+    const auto* column = rows_.begun_ ? ColumnNamed(*rows_.begun_, name_) : nullptr;
+    if (column == nullptr && rows_.row_) column = ColumnNamed(*rows_.row_, name_);
+    return column != nullptr ? column->second : orlin::Value();
   }
 
   void SetValue(const orlin::Value& value) override {
     if (!rows_.begun_) throw Failure(failures::InvalidCall);
+    std::erase_if(*rows_.begun_, [&](const auto& column) { return SameColumn(column.first, name_); });
     rows_.begun_->emplace_back(name_, value);
   }
 
@@ -75,9 +78,14 @@ void StoredRows::LookUp() {
 }
 
 RecordsetField& StoredRows::Fields(const std::string& name) {
-  if (!begun_ && row_ && ValueOf(*row_, name) == nullptr) throw Failure(failures::InvalidCall);
-  auto& field = fields_[name];
-  if (field == nullptr) field = std::make_unique<Field>(*this, name);
+  auto known = name;
+  if (row_) {
+    const auto* column = ColumnNamed(*row_, name);
+    if (column == nullptr) throw Failure(failures::InvalidCall);
+    known = column->first;  // a server may tell names apart by their case
+  }
+  auto& field = fields_[known];
+  if (field == nullptr) field = std::make_unique<Field>(*this, known);
   return *field;
 }
 
@@ -98,7 +106,7 @@ void StoredRows::Edit() {
 }
 
 void StoredRows::Update() {
-  if (!begun_) throw Failure(failures::InvalidCall);
+  if (!begun_ || begun_->empty()) throw Failure(failures::InvalidCall);
   const auto columns = *begun_;
   Store([&] { row_ ? Change(columns) : Insert(columns); });
   begun_.reset();

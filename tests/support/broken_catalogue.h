@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+
+#include "catalogue/text_catalogue.h"
+#include "frame/services.h"
+#include "standard_platform.h"
+#include "support/frame_fixture.h"
+#include "support/temporary_folder.h"
+
+namespace orlin::testing {
+
+/// The stand-ins with a catalogue that fails for one text, and an operator made of code.
+class BrokenCatalogueTest : public ::testing::Test {
+ protected:
+  BrokenCatalogueTest() {
+    StandardPlatformOptions options;
+    options.Host = Host;
+    options.FaultFile = Folder.Path() / "Tolmar.err";
+    options.Now = "2025-03-31 14:07:09";
+    options.OnFaultLogged = [this](const LoggedFault& fault) {
+      Faults.push_back(fault.Module + " " + fault.Procedure + " " + std::to_string(fault.Number));
+    };
+    auto platform = StandardPlatform(options);
+    platform.Components["LocalText.clsLocalText"] = [this] { return std::make_shared<Catalogue>(FailsFor); };
+    UsePlatform(std::move(platform));
+  }
+  ~BrokenCatalogueTest() override { UsePlatform({}); }
+
+  TemporaryFolder Folder;
+  std::shared_ptr<OperatorHost> Host = std::make_shared<OperatorHost>();
+  int FailsFor = 0;
+  Log Faults;
+
+ private:
+  class Catalogue : public TextCatalogue {
+   public:
+    explicit Catalogue(const int& failsFor) : failsFor_(failsFor) {}
+    std::string GetLocalTextBASE(std::int16_t id) override {
+      if (id == failsFor_) throw Failure(75);
+      return TextCatalogue::GetLocalTextBASE(id);
+    }
+
+   private:
+    const int& failsFor_;
+  };
+};
+
+}  // namespace orlin::testing
