@@ -99,8 +99,11 @@ void Account::Read(const std::string& text) try {
     Parameter parameter;
     parameter.Name = entry.at("name").get<std::string>();
     const auto className = entry.at("class").get<std::string>();
-    parameter.Class = FindPublicClass(className);
-    if (parameter.Class == nullptr) throw UsageError(parameter.Name + ": there is no public class " + className);
+    try {
+      parameter.Class = &ClassNamed(className);
+    } catch (const UsageError& error) {
+      throw UsageError(parameter.Name + ": " + error.what());
+    }
     for (const auto& [name, value] : entry.at("arguments").items()) {
       parameter.Arguments.push_back(name + '=' + value.get<std::string>());
     }
@@ -112,7 +115,9 @@ void Account::Read(const std::string& text) try {
   parameters_ = std::move(parameters);
   text_ = text;
 } catch (const nlohmann::json::exception& error) {
-  throw UsageError(error.what());
+  // Without the mark of the library in front of it.
+  const std::string what = error.what();
+  throw UsageError(what.substr(std::min(what.find("] ") + 2, what.size())));
 }
 
 std::vector<Value> Account::ArgumentsOf(std::size_t parameter) const {

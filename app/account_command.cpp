@@ -9,8 +9,8 @@
 
 #include "app/account.h"
 #include "app/account_rules.h"
-#include "app/edit.h"
 #include "app/installed_platform.h"
+#include "app/status.h"
 #include "app/usage_error.h"
 
 namespace orlin {

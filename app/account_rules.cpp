@@ -1,18 +1,13 @@
 #include "app/account_rules.h"
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 #include <utility>
 
+#include "app/arguments.h"
+
 namespace orlin {
 namespace {
-
-std::size_t PlaceOf(const PublicClass& editor, std::string_view parameter) {
-  const auto& all = editor.Parameters();
-  return static_cast<std::size_t>(
-      std::find_if(all.begin(), all.end(), [&](const auto& known) { return known.Name == parameter; }) - all.begin());
-}
 
 /// The digits of a Willow zone come back counted from 1, 0 for none, and go in counted from 0; 9 selects none.
 Value CountedFromZero(const Value& code) {

@@ -9,6 +9,7 @@
 #include "OrlinCustomDialogs/failure.h"
 #include "OrlinCustomDialogs/security_levels.h"
 
+#include "app/suggestion.h"
 #include "app/usage_error.h"
 #include "app/value_text.h"
 
@@ -62,22 +63,29 @@ Value ReadFor(const Parameter& parameter, std::string_view text) {
   }
 }
 
-std::size_t PlaceOf(const PublicClass& publicClass, std::string_view name) {
-  const auto& parameters = publicClass.Parameters();
-  const auto found =
-      std::find_if(parameters.begin(), parameters.end(), [&](const auto& known) { return known.Name == name; });
-  if (found != parameters.end()) return static_cast<std::size_t>(found - parameters.begin());
-  std::string names;
-  for (const auto& parameter : parameters) names.append(names.empty() ? "" : ", ").append(parameter.Name);
-  throw UsageError(publicClass.Name() + " has no parameter \"" + std::string(name) + "\": it takes " + names);
-}
-
 Value NotNamed(const Parameter& parameter, const std::shared_ptr<SecurityLevels>& levels) {
   if (parameter.Name == kSecurityLevels) return levels;
   return parameter.Optional ? Value() : Converted(Value(), parameter.Kind);
 }
 
 }  // namespace
+
+const PublicClass& ClassNamed(const std::string& name) {
+  if (const auto* found = FindPublicClass(name)) return *found;
+  std::vector<std::string> known;
+  for (const auto& publicClass : PublicClasses()) known.push_back(publicClass.Name());
+  throw UsageError("there is no public class " + name + DidYouMean(name, known) + ": orlin-host list names them all");
+}
+
+std::size_t PlaceOf(const PublicClass& publicClass, std::string_view parameter) {
+  std::vector<std::string> known;
+  for (const auto& one : publicClass.Parameters()) {
+    if (one.Name == parameter) return known.size();
+    known.push_back(one.Name);
+  }
+  throw UsageError(publicClass.Name() + " has no parameter \"" + std::string(parameter) + '"' +
+                   DidYouMean(parameter, known) + ": it takes " + Enumerated(known, "and"));
+}
 
 std::vector<Value> BindArguments(const PublicClass& publicClass, const std::vector<std::string>& named,
                                  const std::vector<std::string>& levels) {

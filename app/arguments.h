@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "OrlinCustomDialogs/public_classes.h"
@@ -10,6 +12,12 @@ namespace orlin {
 
 /// The name of the parameter that takes the rights of the operator.
 inline constexpr const char* kSecurityLevels = "SecurityLevels";
+
+/// The public class of that name; `UsageError` with those of a similar name where there is none.
+[[nodiscard]] const PublicClass& ClassNamed(const std::string& name);
+
+/// Which parameter has that name, counted from 0; `UsageError` with those that there are where none has.
+[[nodiscard]] std::size_t PlaceOf(const PublicClass& publicClass, std::string_view parameter);
 
 /// The arguments of one call, in the order of the parameters: what is named as "NAME=VALUE", converted to the fixed
 /// type of its parameter; else empty, or 0. `SecurityLevels` is a collection of the records "NAME=VIEW,EDIT", unless

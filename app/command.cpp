@@ -3,41 +3,42 @@
 #include <algorithm>
 #include <exception>
 #include <string>
-
-#include "OrlinCustomDialogs/public_classes.h"
+#include <utility>
 
 #include "app/command_line.h"
-#include "app/edit.h"
+#include "app/language.h"
+#include "app/status.h"
 
 namespace orlin {
 namespace {
 
-void List(std::ostream& out) {
-  for (const auto& publicClass : PublicClasses()) {
-    out << publicClass.Name();
-    for (const auto& parameter : publicClass.Parameters()) {
-      out << ' ' << parameter.Name;
-      if (parameter.Kind != ParameterKind::Any) out << ':' << KindName(parameter.Kind);
-      if (parameter.Changes) out << '*';
-      if (parameter.Optional) out << '?';
-    }
-    out << '\n';
-  }
-  out << "# NAME:TYPE is of that type alone; * comes back changed; ? may be left out\n";
+/// Texts for people are in their language; what programs read is the same everywhere.
+StandardPlatformOptions ForPeople(StandardPlatformOptions platform) {
+  if (!platform.Language) platform.Language = LanguageOfEnvironment();
+  return platform;
 }
 
 struct Runner {
   std::istream& In;
   std::ostream& Out;
+  std::ostream& Err;
   const WindowOpener& Windows;
 
-  int operator()(const ListCommand&) const {
-    List(Out);
-    return status::Done;
+  int operator()(const ListOptions& options) const { return List(options, Out); }
+  int operator()(DescribeOptions options) const {
+    if (!options.Json) options.Platform = ForPeople(std::move(options.Platform));
+    return Describe(std::move(options), Out);
   }
+  int operator()(EditOptions options) const {
+    if (!options.Script) options.Platform = ForPeople(std::move(options.Platform));
+    return Edit(options, In, Out, Windows);
+  }
+  int operator()(AccountOptions options) const {
+    options.Platform = ForPeople(std::move(options.Platform));
+    return ShowAccount(std::move(options), Windows);
+  }
+  int operator()(const EncryptCommand&) const { return Encrypt(In, Out, Err); }
   int operator()(const HelpGiven&) const { return status::Done; }
-  int operator()(const EditOptions& options) const { return Edit(options, In, Out, Windows); }
-  int operator()(const AccountOptions& options) const { return ShowAccount(options, Windows); }
 };
 
 /// What people read is one line, whatever the words were that it repeats.
@@ -53,7 +54,7 @@ int Complain(std::ostream& err, std::string what) {
 int RunCommand(int count, const char* const* words, std::istream& in, std::ostream& out, std::ostream& err,
                const WindowOpener& windows) {
   try {
-    const int result = std::visit(Runner{in, out, windows}, ReadCommandLine(count, words, out));
+    const int result = std::visit(Runner{in, out, err, windows}, ReadCommandLine(count, words, out));
     if (out.flush()) return result;
     return Complain(err, "the output cannot be written");
   } catch (const std::exception& error) {

@@ -4,17 +4,17 @@
 #include <variant>
 
 #include "app/account_command.h"
+#include "app/describe.h"
 #include "app/edit.h"
+#include "app/encrypt.h"
+#include "app/list.h"
 
 namespace orlin {
 
-/// `orlin-host list`
-struct ListCommand {};
-
-/// The command line was a question for help, which has been answered.
+/// The command line was a question for help or for the version, which has been answered.
 struct HelpGiven {};
 
-using Command = std::variant<ListCommand, EditOptions, AccountOptions, HelpGiven>;
+using Command = std::variant<ListOptions, DescribeOptions, EditOptions, AccountOptions, EncryptCommand, HelpGiven>;
 
 /// Reads the words of the command line; `UsageError` where they make no command.
 [[nodiscard]] Command ReadCommandLine(int count, const char* const* words, std::ostream& out);

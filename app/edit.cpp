@@ -7,23 +7,16 @@
 #include <system_error>
 #include <utility>
 
-#include "OrlinCustomDialogs/failure.h"
-
 #include "app/account_rules.h"
 #include "app/arguments.h"
 #include "app/installed_platform.h"
+#include "app/status.h"
 #include "app/usage_error.h"
 #include "script/script_host.h"
 #include "script/trace.h"
 
 namespace orlin {
 namespace {
-
-const PublicClass& ClassNamed(const std::string& name) {
-  const auto* found = FindPublicClass(name);
-  if (found == nullptr) throw UsageError("there is no public class " + name + ": orlin-host list names them all");
-  return *found;
-}
 
 std::string ReadAll(std::istream& stream) {
   std::string text;
@@ -50,17 +43,6 @@ std::vector<Action> ReadScript(const std::string& file, std::istream& in) {
   } catch (const ScriptError& error) {
     throw UsageError(name + ": " + error.what());
   }
-}
-
-Outcome Call(const PublicClass& publicClass, std::vector<Value> arguments) {
-  Outcome outcome;
-  outcome.Arguments = std::move(arguments);
-  try {
-    outcome.Result = publicClass.Display(outcome.Arguments);
-  } catch (const Failure& failure) {
-    outcome.Raised = failure.Number();
-  }
-  return outcome;
 }
 
 void Tell(Trace& trace, const PublicClass& publicClass, const Outcome& outcome) {
@@ -94,8 +76,7 @@ Outcome RunInWindows(const PublicClass& publicClass, std::vector<Value> argument
 }
 
 int StatusOf(const PublicClass& publicClass, const Outcome& outcome) {
-  constexpr std::int32_t lastOutcome = 2;  // numbers of failures lie above
-  if (!outcome.Result || *outcome.Result < 0 || *outcome.Result > lastOutcome) return status::Failed;
+  if (outcome.Failure()) return status::Failed;
   return Confirmed(publicClass, *outcome.Result, outcome.Arguments) ? status::Done : status::NotConfirmed;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <istream>
 #include <optional>
 #include <ostream>
@@ -9,20 +8,12 @@
 
 #include "OrlinCustomDialogs/public_classes.h"
 
+#include "app/call.h"
 #include "qt/window_system.h"
 #include "script/script.h"
 #include "standard_platform.h"
 
 namespace orlin {
-
-/// Exit statuses of the command.
-namespace status {
-inline constexpr int Done = 0;
-inline constexpr int NotConfirmed = 1;
-inline constexpr int NoSense = 2;  ///< the call makes no sense, or its output cannot be written
-inline constexpr int Failed = 3;
-inline constexpr int Refused = 4;
-}  // namespace status
 
 enum class HostKind { Script, Windows };
 
@@ -50,13 +41,6 @@ struct ScriptedCall {
   bool Strict = false;
   StandardPlatformOptions Platform;
   WindowSystem* Windows = nullptr;  ///< the operator works these windows; null: there is no screen
-};
-
-/// What came of it.
-struct Outcome {
-  std::optional<std::int32_t> Result;  ///< nothing where the class let a failure through
-  std::int32_t Raised = 0;             ///< the number of that failure
-  std::vector<Value> Arguments;
 };
 
 /// Makes the call, with a trace on `out`. Throws `StrictRefusal` (see `ScriptPlayer`), and `PlatformError`.

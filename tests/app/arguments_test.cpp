@@ -66,7 +66,9 @@ TEST(Arguments, TellWhatMakesNoSense) {
   const std::pair<std::vector<std::string>, std::string> named[] = {
       {{"5"}, "an argument is NAME=VALUE, not 5"},
       {{"vany=5"},
-       "clsAny has no parameter \"vany\": it takes vAny, iNumber, lNumber, bFlag, sText, iOptional, SecurityLevels"},
+       "clsAny has no parameter \"vany\" (did you mean vAny?): it takes vAny, iNumber, lNumber, bFlag, sText, "
+       "iOptional "
+       "and SecurityLevels"},
       {{"vAny=5", "vAny=5"}, "vAny is named twice"},
       {{"vAny=\"a"}, "vAny: the text has no closing quote"},
       {{"iNumber=\"x\""}, "iNumber: \"x\" is not a 16-bit integer"},

@@ -17,16 +17,17 @@ Command ReadWords(std::vector<const char*> words) {
 
 TEST(CommandLine, ReadsEveryOption) {
   const auto edit = std::get<EditOptions>(
-      ReadWords({"edit",     "--level",  "A=1,2",          "clsAny",       "a=-1",        "--level", "B=3,4",
-                 "--script", "-",        "--host",         "script",       "--catalogue", "c d",     "--drives",
-                 "e",        "--now",    "2025-01-01",     "b=2",          "--settings",  "f",       "--data-list",
-                 "g",        "--strict", "--fault-file=h", "--exit-status"}));
+      ReadWords({"edit",     "--level",  "A=1,2",          "clsAny",        "a=-1",        "--level", "B=3,4",
+                 "--script", "-",        "--host",         "script",        "--catalogue", "c d",     "--drives",
+                 "e",        "--now",    "2025-01-01",     "b=2",           "--settings",  "f",       "--data-list",
+                 "g",        "--strict", "--fault-file=h", "--exit-status", "--language",  "de_AT"}));
   EXPECT_EQ(edit.Class, "clsAny");
   EXPECT_EQ(edit.Arguments, (std::vector<std::string>{"a=-1", "b=2"}));
   EXPECT_EQ(edit.Levels, (std::vector<std::string>{"A=1,2", "B=3,4"}));
   EXPECT_EQ(edit.Script, "-");
   EXPECT_EQ(edit.Host, HostKind::Script);
   EXPECT_EQ(edit.Platform.CatalogueFile, "c d");
+  EXPECT_EQ(edit.Platform.Language, "de_AT");
   EXPECT_EQ(edit.Platform.DrivesFolder, "e");
   EXPECT_EQ(edit.Platform.Now, "2025-01-01");
   EXPECT_EQ(edit.Platform.SettingsFile, "f");
@@ -45,8 +46,9 @@ TEST(CommandLine, LeavesOutWhatIsNotNamed) {
   EXPECT_FALSE(edit.Strict);
   EXPECT_FALSE(edit.ExitStatus);
   EXPECT_EQ(std::get<EditOptions>(ReadWords({"edit", "list"})).Class, "list");
-  EXPECT_TRUE(std::holds_alternative<ListCommand>(ReadWords({"list"})));
+  EXPECT_EQ(std::get<ListOptions>(ReadWords({"list"})).Class, std::nullopt);
   EXPECT_TRUE(std::holds_alternative<HelpGiven>(ReadWords({"edit", "--help"})));
+  EXPECT_EQ(std::get<DescribeOptions>(ReadWords({"describe", "--account", "a"})).Account, "a");
 }
 
 }  // namespace

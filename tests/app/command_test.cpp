@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,6 +15,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "cipher/ccrypt.h"
 #include "support/temporary_folder.h"
 
 extern char** environ;
@@ -38,6 +41,7 @@ class CommandTest : public ::testing::Test {
   CommandTest() {
     // Nobody sits in front of a screen.
     for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) unsetenv(display);
+    for (const char* language : {"LC_ALL", "LC_MESSAGES", "LANG"}) unsetenv(language);
   }
 
   /// Runs orlin-host with a text on standard input. Its output goes to a file, or to a descriptor that is named.
@@ -128,9 +132,22 @@ TEST_F(CommandTest, TellsWhatMakesNoSenseInOneLine) {
   Folder.Write("bad.tsv", "x\n");
   const std::string willow = "clsZoneFunctionsWillow";
   const std::pair<std::vector<std::string>, std::string> calls[] = {
-      {{}, "A subcommand is required"},
-      {{"open"}, ""},
-      {{"edit"}, "CLASS is required"},
+      {{}, "a command is missing: list, describe, edit, account or encrypt"},
+      {{"open"}, "there is no command open: the commands are list, describe, edit, account and encrypt"},
+      {{"dscribe"}, "there is no command dscribe (did you mean describe?)"},
+      {{"--hlep"}, "has no option --hlep (did you mean --help?)"},
+      {{"edit"}, "edit: CLASS is required"},
+      {{"list", "Willow"}, "(did you mean clsSkedFunc_WillowAce, clsSkedFunc_WillowDuo or clsZoneFunctionsWillow?)"},
+      {{"describe"}, "describe wants either CLASS or --account FILE"},
+      {{"describe", "--level", "A=1,1"}, "describe wants either CLASS or --account FILE"},
+      {{"describe", "clsPanelGMT", "--account", "x"}, "describe wants either CLASS or --account FILE"},
+      {{"describe", "clsPanelGMT", "iHr=5"}, "has no parameter \"iHr\" (did you mean iHrs?): it takes iHrs, iMins,"},
+      {{"describe", "clsPanelGMT", "--language", "fr_FR"}, "there are no texts in fr_FR, but in de and en"},
+      {{"account", "x", "y"}, "account takes no y"},
+      {{"encrypt"}, "encrypt wants the password as one line on standard input"},
+      {{"encrypt", "hunter2"}, "others could read a password there; it is read from standard input"},
+      {{"encrypt", "list"}, "it is read from standard input"},
+      {{"encrypt", "--password=hunter2"}, "it is read from standard input"},
       {{"edit", "clsNone", "--script", "-"}, "there is no public class clsNone: orlin-host list names them all"},
       {{"edit", "cls\nNone", "--script", "-"}, "there is no public class cls None"},
       {{"edit", willow, "--script", "-", "Zone=5"}, "has no parameter \"Zone\""},
@@ -139,13 +156,14 @@ TEST_F(CommandTest, TellsWhatMakesNoSenseInOneLine) {
       {{"edit", willow, "--script", Path("bad.script")}, "bad.script: line 2: select wants a control and a row"},
       {{"edit", willow, "--script", Path("none")}, "none cannot be read: No such file or directory"},
       {{"edit", willow, "--script", Path("")}, "cannot be read: Is a directory"},
-      {{"edit", willow, "--script", "-", "--script", "-"}, "--script"},
+      {{"edit", willow, "--script", "-", "--script", "-"}, "--script may be given once"},
       {{"edit", willow, "--script", "-", "--catalogue", Path("none")}, "none cannot be read"},
       {{"edit", willow, "--script", "-", "--catalogue", Path("bad.tsv")}, "bad.tsv:1: "},
       {{"edit", willow, "--script", "-", "--settings", Path("none")}, "none cannot be read"},
       {{"edit", willow, "--script", "-", "--data-list", Path("none")}, "none cannot be read"},
       {{"edit", willow, "--script", "-", "--now", "noon"}, "\"noon\""},
-      {{"edit", willow, "--script", "-", "--nonsense"}, "--nonsense"},
+      {{"edit", willow, "--script", "-", "--nonsense"}, "edit has no option --nonsense (orlin-host edit --help)"},
+      {{"edit", willow, "--script"}, "--script wants FILE"},
       {{"edit", willow, "--script", "-", "--host", "paper"}, "paper"},
       {{"edit", willow, "--host", "script"}, "--host script wants --script FILE"},
       {{"edit", willow}, "name an operator's script with --script FILE"},
@@ -158,6 +176,7 @@ TEST_F(CommandTest, TellsWhatMakesNoSenseInOneLine) {
     EXPECT_EQ(ended.Err.find("orlin-host: "), 0U) << what;
     EXPECT_NE(ended.Err.find(what), std::string::npos) << ended.Err;
     EXPECT_EQ(ended.Err.find('\n'), ended.Err.size() - 1) << ended.Err;
+    EXPECT_EQ(ended.Err.find("hunter2"), std::string::npos) << ended.Err;
   }
 }
 
@@ -210,12 +229,70 @@ TEST_F(CommandTest, TakesRightsAndFiles) {
 }
 
 TEST_F(CommandTest, ListsThePublicClasses) {
-  const auto ended = Run({"list"});
-  EXPECT_EQ(ended.Status, 0);
-  EXPECT_NE(ended.Out.find("clsZoneFunctionsBirch vName vType* vOption* vTroubleOn* SecurityLevels\n"),
-            std::string::npos);
-  EXPECT_NE(ended.Out.find("clsZoneFunctionsWillow ZoneNum ZoneCode*\n"), std::string::npos);
-  EXPECT_EQ(Run({"edit", "--help"}).Status, 0);
+  const std::pair<std::vector<std::string>, std::string> calls[] = {
+      {{"list"}, "clsZoneFunctionsBirch   vName vType* vOption* vTroubleOn* SecurityLevels\n"},
+      {{"list"}, "clsLstTime_Rowan        Index:Integer res*\n"},
+      {{"list", "clspasscodeLen"}, "  bChangedStatus   Integer  required, comes back changed\n"},
+      {{"list", "clspasscodeLen"}, "  SecurityLevels   rights   optional, the records of --level\n"},
+      {{"list", "--json"}, R"("parameters":[{"name":"Index","kind":"Integer","required":true,"changes":false},)"},
+      {{"list", "clspasscodeLen", "--json"}, R"({"name":"bThroughSIA","kind":"Integer","required":false,)"},
+      {{"--version"}, "orlin-host 1."},
+      {{"--help"}, "describe                    Prints what raw values mean"},
+      {{"edit", "--help"}, "Operator:\n  --script FILE"},
+  };
+  for (const auto& [words, what] : calls) {
+    const auto ended = Run(words);
+    EXPECT_EQ(ended.Status, 0) << what;
+    EXPECT_NE(ended.Out.find(what), std::string::npos) << ended.Out;
+  }
+}
+
+TEST_F(CommandTest, SpeaksToPeopleInTheirLanguage) {
+  setenv("LC_MESSAGES", "de_AT.UTF-8", 1);
+  setenv("LANG", "en_US.UTF-8", 1);
+  const std::string willow = "clsZoneFunctionsWillow";
+  EXPECT_EQ(Run({"describe", willow}).Out.find("Zonenfunktion\n"), 0U);
+  EXPECT_EQ(Run({"describe", willow, "--language", "en"}).Out.find("Zone Function\n"), 0U);
+  setenv("LC_ALL", "C", 1);
+  EXPECT_EQ(Run({"describe", willow}).Out.find("Zone Function\n"), 0U);
+  setenv("LC_ALL", "de_DE.UTF-8", 1);
+  // Programs read the same everywhere.
+  EXPECT_NE(Run({"describe", willow, "--json"}).Out.find("\"Zone Function\""), std::string::npos);
+  EXPECT_EQ(Edit({willow}).Out.find(kShow), 0U);
+  EXPECT_NE(Edit({willow, "--language", "de"}).Out.find("\"Zonenfunktion\""), std::string::npos);
+}
+
+TEST_F(CommandTest, EncryptsThePassword) {
+  for (const char* line : {"se cr\xC3\xA9t", "se cr\xC3\xA9t\n", "se cr\xC3\xA9t\r\nmore\n"}) {
+    const auto ended = Run({"encrypt"}, line);
+    EXPECT_EQ(ended.Status, 0) << ended.Err;
+    ASSERT_TRUE(ended.Out.ends_with('\n'));
+    EXPECT_EQ(CCrypt().DecryptString(ended.Out.substr(0, ended.Out.size() - 1)), "se cr\xC3\xA9t");
+  }
+}
+
+/// What bash offers for the last of these words.
+std::string Completed(const std::string& words) {
+  const std::string program = ORLIN_HOST;
+  const auto command = "bash -c 'source " ORLIN_COMPLETION "; compopt() { :; }; COMP_WORDS=(orlin-host " + words +
+                       "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _orlin_host " + program +
+                       "; echo -n ${COMPREPLY[@]}'";
+  const std::unique_ptr<FILE, int (*)(FILE*)> shell(popen(command.c_str(), "r"), pclose);
+  std::array<char, 4096> out{};
+  return {out.data(), std::fread(out.data(), 1, out.size(), shell.get())};
+}
+
+TEST_F(CommandTest, CompletesWordsInBash) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"\"\"", "list describe edit account encrypt --version --help"},
+      {"edit clsZoneFunctionsW", "clsZoneFunctionsWillow"},
+      {"edit --level A = 1,2 clsPanelGMT iHrs = 5 iM", "iMins="},
+      {"edit clsPanelGMT iHrs =", ""},
+      {"describe --acc", "--account"},
+      {"edit clsPanelGMT --host = s", "script"},
+      {"edit clsPanelGMT --strict --language \"\"", "de en"},
+  };
+  for (const auto& [words, offered] : cases) EXPECT_EQ(Completed(words), offered) << words;
 }
 
 TEST_F(CommandTest, TellsAnOutputThatCannotBeWritten) {

@@ -1,6 +1,8 @@
 #include "frame/conversions.h"
 
 #include <cmath>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -10,68 +12,41 @@ namespace orlin::testing {
 namespace {
 
 TEST(NumericValue, TakesTheLongestLeadingNumber) {
-  const struct {
-    const char* Text;
-    double Number;
-  } cases[] = {{"", 0},
-               {"x", 0},
-               {"12", 12},
-               {" 12 ", 12},
-               {"12abc", 12},
-               {"-7", -7},
-               {"+7", 7},
-               {"1.5x", 1.5},
-               {".5", 0.5},
-               {"5.", 5},
-               {"1e3", 1000},
-               {"1e", 1},
-               {"1e+x", 1},
-               {"--1", 0},
-               {"&H10", 16},
-               {"&hff", 255},
-               {"&HF8zz", 248},
-               {"&H", 0},
-               {"&HFFFFFFFFFFFF", 281474976710655.0},
-               {"1e-400", 0},
-               {"2E14", 2e14}};
-  for (const auto& one : cases) EXPECT_EQ(NumericValue(one.Text), one.Number) << one.Text;
+  const std::pair<double, std::vector<const char*>> cases[] = {{0, {"", "x", "--1", "&H", "1e-400"}},
+                                                               {1, {"1e", "1e+x"}},
+                                                               {12, {"12", " 12 ", "12abc"}},
+                                                               {-7, {"-7"}},
+                                                               {7, {"+7"}},
+                                                               {1.5, {"1.5x"}},
+                                                               {0.5, {".5"}},
+                                                               {5, {"5."}},
+                                                               {1000, {"1e3"}},
+                                                               {2e14, {"2E14"}},
+                                                               {16, {"&H10"}},
+                                                               {255, {"&hff"}},
+                                                               {281474976710655.0, {"&HFFFFFFFFFFFF"}},
+                                                               {248, {"&HF8zz"}}};
+  for (const auto& [number, texts] : cases) {
+    for (const auto* text : texts) EXPECT_EQ(NumericValue(text), number) << text;
+  }
   EXPECT_TRUE(std::isinf(NumericValue("1e400")));
 }
 
 TEST(Conversions, TakeAValueAsAWholeOrFail) {
   constexpr int kMismatch = failures::TypeMismatch;
   constexpr int kOverflow = failures::Overflow;
-  const struct {
-    Value From;
-    int Failure;
-    std::int16_t Integer;
-  } cases[] = {{Value(), 0, 0},
-               {std::int16_t{-5}, 0, -5},
-               {32767, 0, 32767},
-               {32768, kOverflow, 0},
-               {-32769, kOverflow, 0},
-               {0.5, 0, 0},
-               {1.5, 0, 2},
-               {2.5, 0, 2},
-               {-1.5, 0, -2},
-               {32767.4, 0, 32767},
-               {32767.5, kOverflow, 0},
-               {std::nan(""), kOverflow, 0},
-               {true, 0, -1},
-               {" 12 ", 0, 12},
-               {"1e2", 0, 100},
-               {"-.5e1", 0, -5},
-               {"", kMismatch, 0},
-               {"  ", kMismatch, 0},
-               {"12x", kMismatch, 0},
-               {"&H10", kMismatch, 0},
-               {"1e999", kOverflow, 0},
-               {Array(), kMismatch, 0},
-               {ObjectPtr(), kMismatch, 0}};
-  for (const auto& one : cases) {
-    std::int16_t number = 0;
-    EXPECT_EQ(FailureOf([&] { number = ToInteger(one.From); }), one.Failure) << KindName(one.From.kind());
-    EXPECT_EQ(number, one.Integer);
+  const std::pair<int, std::vector<Value>> numbers[] = {
+      {0, {Value(), 0.5}}, {2, {1.5, 2.5}}, {-2, {-1.5}},   {-5, {std::int16_t{-5}, "-.5e1"}},
+      {-1, {true}},        {12, {" 12 "}},  {100, {"1e2"}}, {32767, {32767, 32767.4}}};
+  for (const auto& [number, values] : numbers) {
+    for (const auto& value : values) EXPECT_EQ(ToInteger(value), number) << KindName(value.kind());
+  }
+  const std::pair<int, std::vector<Value>> refused[] = {{kOverflow, {32768, -32769, 32767.5, std::nan(""), "1e999"}},
+                                                        {kMismatch, {"", "  ", "12x", "&H10", Array(), ObjectPtr()}}};
+  for (const auto& [failure, values] : refused) {
+    for (const auto& value : values) {
+      EXPECT_EQ(FailureOf([&] { static_cast<void>(ToInteger(value)); }), failure) << KindName(value.kind());
+    }
   }
   EXPECT_EQ(ToLong("2147483647"), 2147483647);
   EXPECT_EQ(FailureOf([] { static_cast<void>(ToLong(2147483648.0)); }), kOverflow);

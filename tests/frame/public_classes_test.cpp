@@ -1,7 +1,5 @@
 #include "OrlinCustomDialogs/public_classes.h"
 
-#include <dlfcn.h>
-
 #include "OrlinCustomDialogs/exports.h"
 
 #include "frame/public_class_of.h"
@@ -74,26 +72,6 @@ TEST_F(FrameTest, PublicClassesAreFoundByNameAndCreatedOnceRegistered) {
   EXPECT_EQ(DllCanUnloadNow(), 0);
   DllUnregisterServer();
   EXPECT_EQ(FailureOf([&] { static_cast<void>(CreateObject(name)); }), failures::CannotCreateObject);
-}
-
-TEST(SharedLibrary, ExportsItsEntryPoints) {
-  void* library = dlopen(ORLIN_SHARED_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-  ASSERT_NE(library, nullptr) << dlerror();
-  const auto entry = [&](const char* name) { return dlsym(library, name); };
-  const auto get = reinterpret_cast<decltype(&DllGetClassObject)>(entry("DllGetClassObject"));
-  ASSERT_NE(get, nullptr);
-  const PublicClass* found = nullptr;
-  EXPECT_EQ(get("OrlinCustomDialogs.clsZoneFunctionsWillow", &found), 0);
-  ASSERT_NE(found, nullptr);
-  EXPECT_EQ(found->Name(), "clsZoneFunctionsWillow");
-  EXPECT_EQ(get("OrlinCustomDialogs.clsUnknown", &found), failures::CannotCreateObject);
-  EXPECT_EQ(found, nullptr);
-  for (const char* name : {"DllRegisterServer", "DllUnregisterServer", "DllCanUnloadNow"}) {
-    const auto call = reinterpret_cast<std::int32_t (*)()>(entry(name));
-    ASSERT_NE(call, nullptr) << name;
-    EXPECT_EQ(call(), 0) << name;
-  }
-  dlclose(library);
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include "OrlinCustomDialogs/verification.h"
 
 #include "frame/modGeneral.h"
-#include "verification/broken_catalogue.h"
+#include "support/broken_catalogue.h"
 #include "verification/texts.h"
 
 namespace orlin::testing {

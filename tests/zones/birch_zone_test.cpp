@@ -1,10 +1,6 @@
 #include "OrlinCustomDialogs/zones.h"
 
-#include "catalogue/text_catalogue.h"
-#include "frame/services.h"
-#include "standard_platform.h"
-#include "support/frame_fixture.h"
-#include "support/temporary_folder.h"
+#include "support/broken_catalogue.h"
 #include "zones/zone_fixture.h"
 
 namespace orlin::testing {
@@ -248,14 +244,6 @@ TEST(BirchZones, FailureBeforeTheShowIsTheResult) {
   }
 }
 
-/// The real catalogue, but for one text.
-struct BrokenCatalogue : TextCatalogue {
-  std::string GetLocalTextBASE(std::int16_t id) override {
-    if (id == 1725) throw Failure(53);
-    return TextCatalogue::GetLocalTextBASE(id);
-  }
-};
-
 /// A fault log that fails when it is first used.
 struct BrokenLog : FaultLog {
   using FaultLog::FaultLog;
@@ -279,22 +267,17 @@ std::int32_t DisplayType() {
   return clsZoneTypeBirch().Display(Integer(50), {}, type, {}, std::make_shared<SecurityLevels>());
 }
 
-class BirchFaults : public FrameTest {};
+class BirchFaults : public BrokenCatalogueTest {};
 
 TEST_F(BirchFaults, FailureOfTheSearchForATypeIsLoggedAndFindsNone) {
-  StandardPlatformOptions platformOptions;
-  platformOptions.Host = Host;
-  auto platform = StandardPlatform(platformOptions);
-  platform.Components["LocalText.clsLocalText"] = [] { return std::make_shared<BrokenCatalogue>(); };
-  UsePlatform(std::move(platform));
+  FailsFor = 1725;
   EXPECT_EQ(DisplayDescription(), failures::NoObject) << "there is no fault object";
   EXPECT_TRUE(Host->Happened.empty());
 
-  const TemporaryFolder folder;
   Log logged;
   FaultLogOptions options;
   options.Host = Host;
-  options.File = std::make_shared<FaultFile>(folder.Path() / "faults");
+  options.File = std::make_shared<FaultFile>(Folder.Path() / "faults");
   options.OnLogged = [&](const LoggedFault& fault) {
     logged = {fault.Module, fault.Procedure, std::to_string(fault.Number), fault.AdditionalText};
   };
@@ -305,6 +288,9 @@ TEST_F(BirchFaults, FailureOfTheSearchForATypeIsLoggedAndFindsNone) {
 }
 
 TEST_F(BirchFaults, FailureInDisplayIsReturnedAndAnyOtherReachesTheCaller) {
+  Platform bare;
+  bare.Host = Host;
+  UsePlatform(bare);
   EXPECT_EQ(DisplayDescription(), failures::NoObject) << "there is no catalogue";
   EXPECT_EQ(DisplayType(), failures::NoObject);
   UsePlatform({});

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <ostream>
+#include <string>
+
+namespace orlin {
+
+/// `orlin-host list`, as the command line tells it.
+struct ListOptions {
+  std::optional<std::string> Class;  ///< nothing: all public classes
+  bool Json = false;
+};
+
+/// Prints public classes with their parameters. `UsageError` for a class that there is not.
+int List(const ListOptions& options, std::ostream& out);
+
+}  // namespace orlin

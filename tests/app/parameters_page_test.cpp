@@ -1,0 +1,66 @@
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "OrlinCustomDialogs/public_classes.h"
+
+// docs/parameters.md names each public class in a heading, `### clsName`, several that are alike in one, and each of
+// its parameters in the first column of the table below. A page that has fallen behind fails here.
+
+namespace orlin::testing {
+namespace {
+
+/// The words of a line that stand in backticks.
+std::vector<std::string> Quoted(std::string_view line) {
+  std::vector<std::string> words;
+  for (auto at = line.find('`'); at != std::string_view::npos; at = line.find('`', at)) {
+    const auto end = line.find('`', at + 1);
+    if (end == std::string_view::npos) break;
+    words.emplace_back(line.substr(at + 1, end - at - 1));
+    at = end + 1;
+  }
+  return words;
+}
+
+/// As `orlin-host list` writes it: "vType*" comes back changed, "Index:Integer" takes that type, "Last?" may be left
+/// out.
+std::string Shape(const Parameter& parameter) {
+  auto shape = parameter.Name;
+  if (parameter.Kind != ParameterKind::Any) shape += ":" + std::string(KindName(parameter.Kind));
+  return shape + (parameter.Changes ? "*" : "") + (parameter.Optional ? "?" : "");
+}
+
+using Page = std::map<std::string, std::vector<std::string>>;
+
+/// The parameters of each class, in the order of the page.
+Page ReadPage(std::istream& lines) {
+  Page page;
+  std::vector<std::string> classes;
+  for (std::string line; std::getline(lines, line);) {
+    if (line.starts_with("#")) {
+      classes = line.starts_with("### ") ? Quoted(line) : std::vector<std::string>();
+      for (const auto& name : classes) EXPECT_TRUE(page.emplace(name, std::vector<std::string>()).second) << name;
+    } else if (line.starts_with("| `")) {
+      for (const auto& name : classes) page[name].push_back(Quoted(line).at(0));
+    }
+  }
+  return page;
+}
+
+TEST(ParametersPage, NamesEveryClassWithItsParametersInOrder) {
+  std::ifstream file(ORLIN_DOCS "/parameters.md");
+  Page registered;
+  for (const auto& publicClass : PublicClasses()) {
+    auto& shapes = registered[publicClass.Name()];
+    for (const auto& parameter : publicClass.Parameters()) shapes.push_back(Shape(parameter));
+  }
+  EXPECT_EQ(ReadPage(file), registered);
+}
+
+}  // namespace
+}  // namespace orlin::testing
