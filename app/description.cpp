@@ -160,7 +160,9 @@ class Teller {
     const auto text = PlainCaption(label.Caption());
     if (joined_.contains(&label)) return Add(label, told::Text{text});
     const auto* named = label.Names();
-    const bool isCaption = named != nullptr && (!named->IsShown() || labels_.at(named) == &label);
+    const auto caption = labels_.find(named);
+    const bool isCaption =
+        named != nullptr && (!named->IsShown() || (caption != labels_.end() && caption->second == &label));
     if (text.empty() || isCaption || explained_.contains(&label)) return;
     // "Code of zone 5", and further on "4000"
     if (text.find(' ') == std::string::npos) {
