@@ -56,7 +56,7 @@ StoredRows::StoredRows(std::shared_ptr<Connection> connection, Query query, bool
     where_.Values.push_back(wanted);
   }
   try {
-    Start();
+    UntilNoConflict([this] { Start(); });
   } catch (...) {
     Close();
     throw;
@@ -119,15 +119,12 @@ void StoredRows::Delete() {
   row_.reset();
 }
 
-template <class Write>
-void StoredRows::Store(Write write) {
+template <class Steps>
+void StoredRows::UntilNoConflict(Steps steps) {
   const auto end = std::chrono::steady_clock::now() + connection_->Patience();
-  for (bool again = false;; again = true) {
+  while (true) {
     try {
-      if (again) Start();
-      write();
-      connection_->Commit();
-      inTransaction_ = false;
+      steps();
       return;
     } catch (const WriteConflict&) {
       if (inTransaction_) connection_->Rollback();
@@ -136,6 +133,16 @@ void StoredRows::Store(Write write) {
       WaitALittle();
     }
   }
+}
+
+template <class Write>
+void StoredRows::Store(Write write) {
+  UntilNoConflict([&] {
+    if (!inTransaction_) Start();
+    write();
+    connection_->Commit();
+    inTransaction_ = false;
+  });
 }
 
 void StoredRows::Insert(const Columns& columns) {

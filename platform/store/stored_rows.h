@@ -40,6 +40,9 @@ class StoredRows : public Recordset {
 
   void LookUp();
   void Start();
+  /// Does the steps again as long as another program comes between, and the connection has patience.
+  template <class Steps>
+  void UntilNoConflict(Steps steps);
   /// Writes, and commits; again from the lookup where another program came between.
   template <class Write>
   void Store(Write write);
