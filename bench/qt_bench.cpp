@@ -39,6 +39,8 @@ namespace orlin {
 namespace {
 
 constexpr int kRounds = 25;
+// That of the offscreen platform is smaller than screens are.
+constexpr QSize kScreen(1366, 768);
 
 /// Notes when the widget is painted first.
 class PaintWatch final : public QObject {
@@ -193,6 +195,7 @@ class MeasuringHost final : public DialogHost {
     const double decoding = static_cast<double>(sinceCall_.nsecsElapsed()) / 1e6;
     const double shown = Milliseconds([&] {
       window_ = std::make_unique<DialogWindow>(dialog, DialogWindow::Timers::Stand, nullptr);
+      window_->SetRoom(kScreen);
       window_->Open();
       PaintFirst(*window_);
     });

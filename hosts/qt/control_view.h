@@ -41,8 +41,8 @@ class ControlView {
   /// What has the keyboard while the control has the focus.
   [[nodiscard]] virtual QWidget* KeyboardWidget() const { return Widget(); }
 
-  /// Brings the widget up to date, if the control has changed since.
-  void Update();
+  /// Brings the widget up to date, if the control has changed since. Tells whether it had.
+  bool Update();
   /// Shows the whole state again, whatever has changed.
   virtual void Present() = 0;
   /// A key that is not for the dialog but for the window: the clipboard, a mark with Shift, the rows of a drop-down
@@ -67,6 +67,8 @@ class ControlView {
 template <class Shown>
 class ViewOf : public ControlView {
  public:
+  using Shows = Shown;
+
   ViewOf(Shown& control, Desk& desk) : control_(control), desk_(desk) {}
   [[nodiscard]] shown::Control& Control() const final { return control_; }
 

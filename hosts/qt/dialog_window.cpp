@@ -14,6 +14,7 @@
 
 #include "qt/form_layout.h"
 #include "qt/keys.h"
+#include "qt/passive_edit.h"
 #include "qt/texts.h"
 #include "qt/views.h"
 
@@ -34,13 +35,12 @@ DialogWindow::DialogWindow(shown::Dialog& dialog, Timers timers, QWidget* parent
   FormLayout layout(plan_, [this](const auto& control) { return ViewOf(control).Widget(); });
   layout.LayOut(*this, *body_);
   stretches_ = layout.Stretches();
-  WidenCaptions();
 }
 
 // Where a table or a list makes the window wide, captions need not be broken before its edge.
 void DialogWindow::WidenCaptions() {
   const int edge = 4 * fontMetrics().averageCharWidth();
-  const int room = body_->sizeHint().width() - edge;
+  const int room = std::min(body_->sizeHint().width(), Room().width()) - edge;
   if (room <= CaptionWidth(*this)) return;
   setProperty(kCaptionWidth, room);
   for (const auto& view : views_) {
@@ -99,6 +99,7 @@ void DialogWindow::Open() {
     return {};
   });
   if (!dialog_.IsShown() || thrown_) return;
+  WidenCaptions();
   Fit();
   show();
 }
@@ -114,6 +115,8 @@ void DialogWindow::Rethrow() {
 }
 
 void DialogWindow::Do(const std::function<Refusal()>& action) {
+  // What an input method holds is of the field that has the keyboard, before anything else happens.
+  if (auto* field = dynamic_cast<Composing*>(focusWidget()); field != nullptr && !busy_) field->Commit();
   // A timer may be due while a message is shown; it then waits for the next time.
   if (busy_ || !dialog_.IsShown()) return;
   busy_ = true;
@@ -132,15 +135,16 @@ void DialogWindow::Do(const std::function<Refusal()>& action) {
 void DialogWindow::Present() {
   if (presenting_) return;
   presenting_ = true;
-  if (revision_ != dialog_.Revision()) {
+  bool different = revision_ != dialog_.Revision();
+  if (different) {
     revision_ = dialog_.Revision();
     setWindowTitle(Shown(dialog_.Caption()));
   }
-  for (const auto& view : views_) view->Update();
-  PresentNames();
+  for (const auto& view : views_) different = view->Update() || different;
+  if (different) PresentNames();
   if (layout() != nullptr) {
     PresentFocus();
-    if (isVisible()) Fit();
+    if (different && isVisible()) Fit();
   }
   presenting_ = false;
 }
@@ -152,6 +156,7 @@ void DialogWindow::PresentFocus() {
   if (wanted == keyboard_ && wanted->hasFocus()) return;
   const bool another = std::exchange(keyboard_, wanted) != wanted;
   wanted->setFocus(Qt::OtherFocusReason);
+  if (auto* area = Scrolling(); area != nullptr && area->isAncestorOf(wanted)) area->ensureWidgetVisible(wanted);
   // A field that is left forgets its mark.
   if (another && dynamic_cast<const shown::TextControl*>(focused) != nullptr) ViewOf(*focused).Present();
 }
@@ -168,7 +173,8 @@ void DialogWindow::PresentNames() {
                              ? control.Parent()->Caption()
                              : dialog_.Caption();
     if (label != plan_.Labels.end() && label->second->Names() == &control) {
-      dynamic_cast<QLabel&>(*ViewOf(*label->second).Widget()).setBuddy(widget);
+      auto& shown = dynamic_cast<QLabel&>(*ViewOf(*label->second).Widget());
+      if (shown.buddy() != widget) shown.setBuddy(widget);
     }
     const auto name = SpokenCaption(source);
     if (widget->accessibleName() == name) continue;
@@ -177,6 +183,12 @@ void DialogWindow::PresentNames() {
   }
 }
 
+QSize DialogWindow::Room() const {
+  return (room_.isValid() ? room_ : screen()->availableGeometry().size()) * kMostOfScreen;
+}
+
+QScrollArea* DialogWindow::Scrolling() const { return qobject_cast<QScrollArea*>(body_); }
+
 void DialogWindow::Fit() {
   // From the inside out, now instead of by and by.
   const auto inside = findChildren<QWidget*>();
@@ -184,9 +196,10 @@ void DialogWindow::Fit() {
     if ((*widget)->layout() != nullptr) (*widget)->layout()->activate();
   }
   layout()->activate();
-  const auto most = (room_.isValid() ? room_ : screen()->availableGeometry().size()) * kMostOfScreen;
+  const auto most = Room();
   const auto hint = sizeHint();
-  if ((hint.width() > most.width() || hint.height() > most.height()) && qobject_cast<QScrollArea*>(body_) == nullptr) {
+  const auto least = layout()->totalMinimumSize();
+  if ((least.width() > most.width() || least.height() > most.height()) && Scrolling() == nullptr) {
     // Too large for the screen: the form scrolls, the buttons stay.
     auto* area = new QScrollArea(this);
     area->setFrameShape(QFrame::NoFrame);
@@ -202,14 +215,16 @@ void DialogWindow::Fit() {
     resize((hint + bars).boundedTo(most));
     return;
   }
-  if (qobject_cast<QScrollArea*>(body_) != nullptr) return;
+  if (Scrolling() != nullptr) return;
   if (!stretches_) {
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     return;
   }
+  // Tables and lists give way, and scroll by themselves.
+  const auto wanted = hint.boundedTo(most);
   // The operator's own size stays, unless something new needs more.
   const bool own = fitted_.isValid() && size() != fitted_;
-  resize(own ? size().expandedTo(hint) : hint);
+  resize(own ? size().expandedTo(wanted) : wanted);
   fitted_ = size();
 }
 
@@ -259,6 +274,12 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) { TakeKey(nullptr, *event); }
 void DialogWindow::TakeKey(ControlView* view, const QKeyEvent& key) {
   if (view != nullptr && view->TakeWindowKey(key)) return;
   for (const auto& pressed : KeysOf(key)) Press(pressed, dialog_);
+}
+
+void DialogWindow::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  // Styles mark what has the focus only where the keyboard of Qt has moved it; here the dialog moves it.
+  setAttribute(Qt::WA_KeyboardFocusChange);
 }
 
 void DialogWindow::closeEvent(QCloseEvent* event) {

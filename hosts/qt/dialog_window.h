@@ -12,6 +12,8 @@
 #include "qt/control_view.h"
 #include "qt/form_plan.h"
 
+class QScrollArea;
+
 namespace orlin {
 
 /// A dialog of the library in a window. Everything that the operator does goes to the controls; after it, and
@@ -48,6 +50,7 @@ class DialogWindow final : public QDialog, public Desk {
  protected:
   bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void reject() override { CloseBox(); }
@@ -61,6 +64,10 @@ class DialogWindow final : public QDialog, public Desk {
   void PresentFocus();
   void PresentNames();
   void Fit();
+  /// The largest that the window may be.
+  [[nodiscard]] QSize Room() const;
+  /// The form, once it scrolls.
+  [[nodiscard]] QScrollArea* Scrolling() const;
   void CloseBox();
 
   shown::Dialog& dialog_;

@@ -15,7 +15,7 @@ constexpr std::size_t kMostMarksBelowEachOther = 4;
 constexpr int kColumnsOfMarks = 4;
 constexpr int kLettersOfNumber = 8;
 constexpr int kLettersOfButton = 14;
-constexpr int kNarrowest = 48;
+constexpr int kLettersOfTitleButtons = 12;
 
 bool IsExpanding(const QWidget& widget) { return widget.sizePolicy().expandingDirections().testFlag(Qt::Horizontal); }
 
@@ -40,13 +40,23 @@ void FormLayout::LayOut(QWidget& window, QWidget& body) {
   Fill(body, plan_.Body);
   AlignFrames();
   auto* all = new QVBoxLayout(&window);
+  const int letter = window.fontMetrics().averageCharWidth();
   body.layout()->setContentsMargins(0, 0, 0, 0);
   all->addWidget(&body, 1);
+  // The frame shows the title in letters of its own, between buttons.
+  const auto titleLetters = static_cast<int>(window.windowTitle().size()) + kLettersOfTitleButtons;
+  all->addStrut(titleLetters * letter);
 
   auto* buttons = new QHBoxLayout();
-  for (const auto* button : plan_.LeftButtons) buttons->addWidget(widgetOf_(*button));
+  for (const auto* button : plan_.LeftButtons) {
+    auto* widget = widgetOf_(*button);
+    widget->setMinimumWidth(widget->sizeHint().width() + 2 * letter);
+    buttons->addWidget(widget);
+  }
+  // What ends the dialog stands apart from what does not.
+  if (!plan_.LeftButtons.empty()) buttons->addSpacing(2 * buttons->spacing());
   buttons->addStretch(1);
-  int widest = window.fontMetrics().averageCharWidth() * kLettersOfButton;
+  int widest = letter * kLettersOfButton;
   for (const auto* button : plan_.RightButtons) {
     auto* widget = widgetOf_(*button);
     widest = std::max(widest, widget->sizeHint().width());
@@ -129,14 +139,20 @@ void FormLayout::AddRow(QGridLayout& grid, const FormRow& row) {
 
 void FormLayout::AddField(QGridLayout& grid, const FormRow& row) {
   const int at = grid.rowCount();
-  auto* lines = new QVBoxLayout();
-  for (const auto& line : row.Lines) AddLine(*lines, line, 0);
-  if (row.Label == nullptr) return grid.addLayout(lines, at, 0, 1, 2);
+  const int column = row.Label != nullptr ? 1 : 0;
+  if (row.Lines.size() == 1 && row.Lines.front().size() == 1) {
+    auto* field = widgetOf_(*row.Lines.front().front());
+    grid.addWidget(field, at, column, 1, 2 - column, IsExpanding(*field) ? Qt::Alignment() : Qt::AlignLeft);
+  } else {
+    auto* lines = new QVBoxLayout();
+    for (const auto& line : row.Lines) AddLine(*lines, line, 0);
+    grid.addLayout(lines, at, column, 1, 2 - column);
+  }
+  if (row.Label == nullptr) return;
   auto* label = widgetOf_(*row.Label);
   // As high as one field, so that it stands beside the first of them that is visible.
   label->setMinimumHeight(widgetOf_(*row.Lines.front().front())->sizeHint().height());
   grid.addWidget(label, at, 0, row.Lines.size() > 1 ? Qt::AlignTop : Qt::Alignment());
-  grid.addLayout(lines, at, 1);
 }
 
 void FormLayout::AddTall(QGridLayout& grid, const std::vector<const FormRow*>& columns) {
@@ -171,7 +187,8 @@ QLayout* FormLayout::Column(const FormRow& row, int spacing) {
   auto* side = new QHBoxLayout();
   AddLine(*side, row.Lines.front(), 1);
   auto* lists = new QVBoxLayout();
-  for (std::size_t i = 1; i < row.Lines.size(); ++i) AddLine(*lists, row.Lines[i], 1);
+  // Without a share of its own, each list gets the height that its rows want.
+  for (std::size_t i = 1; i < row.Lines.size(); ++i) AddLine(*lists, row.Lines[i], 0);
   side->addLayout(lists, 1);
   column->addLayout(side, 1);
   return column;
@@ -194,7 +211,7 @@ QLayout* FormLayout::Line(const FormLine& line, bool fills) {
       // The buttons touch their box, which holds a number.
       auto* pair = new QHBoxLayout();
       pair->setSpacing(0);
-      widget->setFixedWidth(std::max(widget->fontMetrics().averageCharWidth() * kLettersOfNumber, kNarrowest));
+      if (IsExpanding(*widget)) widget->setFixedWidth(widget->fontMetrics().averageCharWidth() * kLettersOfNumber);
       pair->addWidget(widget);
       pair->addWidget(widgetOf_(*line[++i]));
       layout->addLayout(pair);
@@ -224,6 +241,7 @@ void FormLayout::AddMarks(QGridLayout& grid, const std::vector<const FormRow*>& 
 
 // Fields of one frame begin where those of the others do.
 void FormLayout::AlignFrames() {
+  if (frameGrids_.size() < 2) return;
   int widest = 0;
   const auto eachLabel = [&](const auto& use) {
     for (auto* grid : frameGrids_) {

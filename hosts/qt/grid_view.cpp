@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kMostRows = 12;
 constexpr int kFewestRows = 4;
+constexpr int kFewestLetters = 60;
 
 QFont Bold(QFont font) {
   font.setBold(true);
@@ -175,7 +176,10 @@ class CellTable final : public QTableView {
   }
 
   [[nodiscard]] QSize sizeHint() const override { return HintFor(kMostRows); }
-  [[nodiscard]] QSize minimumSizeHint() const override { return HintFor(kFewestRows); }
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    const auto few = HintFor(kFewestRows);
+    return {std::min(few.width(), fontMetrics().averageCharWidth() * kFewestLetters), few.height()};
+  }
 
  protected:
   void mousePressEvent(QMouseEvent* event) override {
@@ -227,6 +231,7 @@ class CellTable final : public QTableView {
   // Wide enough for every text; where there is room, in the proportions that the dialog gives.
   void FitColumns() {
     givenWidths_ = GivenWidths();
+    titlesHeight_ = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->sizeHint().height();
     const int around =
         2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + fontMetrics().averageCharWidth();
     widths_.assign(static_cast<std::size_t>(grid_.Cols()), 0);
@@ -248,9 +253,8 @@ class CellTable final : public QTableView {
   [[nodiscard]] QSize HintFor(int mostRows) const {
     int width = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
     for (const int column : widths_) width += column;
-    const int titles = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->sizeHint().height();
     const int rows = std::clamp(model_->rowCount(), kFewestRows, mostRows);
-    return {width, titles + rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth()};
+    return {width, titlesHeight_ + rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth()};
   }
 
   shown::Grid& grid_;
@@ -259,6 +263,7 @@ class CellTable final : public QTableView {
   PassiveLine* editor_ = nullptr;
   std::vector<int> widths_;
   std::vector<int> givenWidths_;
+  int titlesHeight_ = 0;  // takes its time to measure
 };
 
 class GridView final : public ViewOf<shown::Grid> {
@@ -276,8 +281,8 @@ class GridView final : public ViewOf<shown::Grid> {
 
 }  // namespace
 
-std::unique_ptr<ControlView> MakeGridView(shown::Grid& grid, Desk& desk, QWidget* parent) {
-  return std::make_unique<GridView>(grid, desk, parent);
+std::unique_ptr<ControlView> MakeGridView(shown::Control& control, Desk& desk, QWidget* parent) {
+  return MakeOne<GridView>(control, desk, parent);
 }
 
 }  // namespace orlin

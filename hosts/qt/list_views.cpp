@@ -2,12 +2,14 @@
 #include <QListView>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QStandardItemModel>
 #include <QStyle>
 #include <algorithm>
 
 #include "qt/passive_edit.h"
 #include "qt/row_model.h"
 #include "qt/text_actions.h"
+#include "qt/texts.h"
 #include "qt/views.h"
 
 namespace orlin {
@@ -23,21 +25,29 @@ constexpr int kMostRows = 10;
 class DropDown final : public QComboBox {
  public:
   DropDown(QWidget* parent, std::function<void()> onPress) : QComboBox(parent), onPress_(std::move(onPress)) {
-    rows_ = new RowModel(this);
-    setModel(rows_);
     setFocusPolicy(Qt::TabFocus);
     setMaxVisibleItems(kRowsOfDropDown);
     setInsertPolicy(QComboBox::NoInsert);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   }
 
-  [[nodiscard]] RowModel& Rows() const { return *rows_; }
+  // The rows stand in Qt's own model: for another one Qt makes the drop-down list at once, which costs more than all
+  // the rest of a small dialog.
+  void Take(const shown::RowList& list) {
+    if (texts_.AreThoseOf(list)) return;
+    texts_.Take(list);
+    QList<QStandardItem*> items;
+    for (const auto& text : texts_.Rows()) items.push_back(new QStandardItem(Shown(text)));
+    auto& rows = dynamic_cast<QStandardItemModel&>(*model());
+    rows.clear();
+    if (!items.isEmpty()) rows.invisibleRootItem()->appendRows(items);
+  }
 
   [[nodiscard]] QSize sizeHint() const override {
     QStyleOptionComboBox option;
     initStyleOption(&option);
     const auto metrics = fontMetrics();
-    const QSize content(std::max(rows_->Width(font()), metrics.averageCharWidth() * 8) + metrics.averageCharWidth(),
+    const QSize content(std::max(texts_.Width(font()), metrics.averageCharWidth() * 8) + metrics.averageCharWidth(),
                         std::max(metrics.height(), 14) + 2);
     return style()->sizeFromContents(QStyle::CT_ComboBox, &option, content, this);
   }
@@ -55,7 +65,7 @@ class DropDown final : public QComboBox {
 
  private:
   std::function<void()> onPress_;
-  RowModel* rows_;
+  RowTexts texts_;
 };
 
 class ComboBoxView final : public ViewOf<shown::ComboBox> {
@@ -78,7 +88,7 @@ class ComboBoxView final : public ViewOf<shown::ComboBox> {
   }
 
   void Present() override {
-    list_->Rows().Take(Its(), nullptr);
+    list_->Take(Its());
     if (list_->currentIndex() != Its().ListIndex()) list_->setCurrentIndex(Its().ListIndex());
     list_->updateGeometry();
     if (field_ == nullptr) return;
@@ -113,7 +123,6 @@ class RowsView final : public QListView {
     setFocusPolicy(Qt::TabFocus);
     setUniformItemSizes(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   }
 
   [[nodiscard]] RowModel& Rows() const { return *rows_; }
@@ -122,6 +131,10 @@ class RowsView final : public QListView {
   [[nodiscard]] QSize minimumSizeHint() const override { return HintFor(kFewestRows); }
 
  protected:
+  void showEvent(QShowEvent* event) override {
+    QListView::showEvent(event);
+    if (currentIndex().isValid()) scrollTo(currentIndex(), PositionAtCenter);
+  }
   void mousePressEvent(QMouseEvent* event) override {
     if (event->button() == Qt::LeftButton) onPress_(indexAt(event->position().toPoint()).row());
   }
@@ -194,12 +207,12 @@ class ListBoxView final : public ViewOf<shown::ListBox> {
 
 }  // namespace
 
-std::unique_ptr<ControlView> MakeComboBoxView(shown::ComboBox& box, Desk& desk, QWidget* parent) {
-  return std::make_unique<ComboBoxView>(box, desk, parent);
+std::unique_ptr<ControlView> MakeComboBoxView(shown::Control& control, Desk& desk, QWidget* parent) {
+  return MakeOne<ComboBoxView>(control, desk, parent);
 }
 
-std::unique_ptr<ControlView> MakeListBoxView(shown::ListBox& list, Desk& desk, QWidget* parent) {
-  return std::make_unique<ListBoxView>(list, desk, parent);
+std::unique_ptr<ControlView> MakeListBoxView(shown::Control& control, Desk& desk, QWidget* parent) {
+  return MakeOne<ListBoxView>(control, desk, parent);
 }
 
 }  // namespace orlin

@@ -17,7 +17,8 @@ namespace {
 class Screen {
  public:
   Screen() : application_(count_, words_) {
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("OrlinCustomDialogs"));
+    // A display name would stand behind the caption of each dialog, which has little room.
+    QCoreApplication::setApplicationName(QStringLiteral("OrlinCustomDialogs"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
   }
 

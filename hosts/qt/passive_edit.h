@@ -3,19 +3,39 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QInputMethod>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QScopedValueRollback>
 #include <QTextBoundaryFinder>
+#include <QTextDocument>
 #include <algorithm>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "qt/texts.h"
 
 namespace orlin {
+
+/// Where a key of the caret leads from a position, in UTF-16 units.
+[[nodiscard]] inline int Moved(const QPlainTextEdit& field, int from, QTextCursor::MoveOperation move, int times = 1) {
+  auto cursor = field.textCursor();
+  cursor.setPosition(from);
+  cursor.movePosition(move, QTextCursor::MoveAnchor, times);
+  return cursor.position();
+}
+[[nodiscard]] inline int Moved(const QLineEdit& field, int from, QTextCursor::MoveOperation move, int times = 1) {
+  QTextDocument line;
+  line.setPlainText(field.text());
+  QTextCursor cursor(&line);
+  cursor.setPosition(from);
+  cursor.movePosition(move, QTextCursor::MoveAnchor, times);
+  return cursor.position();
+}
 
 /// A text with its mark, as a control holds it.
 struct EditState {
@@ -43,26 +63,57 @@ struct EditActions {
   return field.cursorForPosition(point).position();
 }
 
-inline void Put(QLineEdit& field, const QString& text, int start, int length) {
+/// Shows a text that is marked from one position to another, where the caret stands.
+inline void Put(QLineEdit& field, const QString& text, int anchor, int caret) {
   if (field.text() != text) field.setText(text);
-  if (length > 0) {
-    field.setSelection(start, length);
+  if (anchor != caret) {
+    field.setSelection(anchor, caret - anchor);
   } else {
     field.deselect();
-    field.setCursorPosition(start);
+    field.setCursorPosition(caret);
   }
 }
-inline void Put(QPlainTextEdit& field, const QString& text, int start, int length) {
-  if (field.toPlainText() != text) field.setPlainText(text);
+inline void Put(QPlainTextEdit& field, const QString& text, int anchor, int caret) {
+  // Only what is different is replaced: a new text would lose what is scrolled to, and cost its whole layout.
+  const auto old = field.toPlainText();
   auto cursor = field.textCursor();
-  cursor.setPosition(start);
-  cursor.setPosition(start + length, QTextCursor::KeepAnchor);
+  if (old != text) {
+    const auto shorter = std::min(old.size(), text.size());
+    const auto same = std::mismatch(old.begin(), old.begin() + shorter, text.begin()).first - old.begin();
+    const auto behind =
+        std::mismatch(old.rbegin(), old.rbegin() + (shorter - same), text.rbegin()).first - old.rbegin();
+    cursor.setPosition(static_cast<int>(same));
+    cursor.setPosition(static_cast<int>(old.size() - behind), QTextCursor::KeepAnchor);
+    cursor.insertText(text.mid(same, text.size() - behind - same));
+  }
+  cursor.setPosition(anchor);
+  cursor.setPosition(caret, QTextCursor::KeepAnchor);
   field.setTextCursor(cursor);
 }
 
+/// A field in which an input method may be composing a text.
+class Composing {
+ public:
+  Composing() = default;
+  Composing(const Composing&) = delete;
+  Composing& operator=(const Composing&) = delete;
+  virtual ~Composing() = default;
+
+  /// Ends it: what is composed is typed.
+  void Commit() {
+    if (std::exchange(composes_, false)) QGuiApplication::inputMethod()->commit();
+  }
+
+ protected:
+  void SetComposes(bool composes) noexcept { composes_ = composes; }
+
+ private:
+  bool composes_ = false;
+};
+
 /// A field that shows a text and never changes it: all that the operator does goes to the control, by `Actions`.
 template <class Field>
-class PassiveEdit : public Field {
+class PassiveEdit : public Field, public Composing {
  public:
   explicit PassiveEdit(QWidget* parent = nullptr) : Field(parent) {
     Field::setAcceptDrops(false);
@@ -81,8 +132,9 @@ class PassiveEdit : public Field {
     source_ = Shown(state.Text);
     start_ = state.SelStart;
     length_ = state.SelLength;
-    const int from = UnitsInField(start_);
-    Put(*this, InField(source_), from, UnitsInField(start_ + length_) - from);
+    // A mark that is not the operator's own ends with the caret.
+    if (!marking_) anchorFirst_ = true;
+    Put(*this, InField(source_), UnitsInField(Anchor()), UnitsInField(Caret()));
     showing_ = false;
   }
 
@@ -92,20 +144,18 @@ class PassiveEdit : public Field {
     if (key.matches(QKeySequence::Cut)) return Cut(), true;
     if (key.matches(QKeySequence::Paste)) return Paste(), true;
     if (key.matches(QKeySequence::SelectAll)) return Actions.SetCaret(0, Length()), true;
-    if (!key.modifiers().testFlag(Qt::ShiftModifier)) return false;
-    const int moving = anchorFirst_ ? start_ + length_ : start_;
-    switch (key.key()) {
-      case Qt::Key_Left:
-        return Extend(moving - 1), true;
-      case Qt::Key_Right:
-        return Extend(moving + 1), true;
-      case Qt::Key_Home:
-        return Extend(0), true;
-      case Qt::Key_End:
-        return Extend(Length()), true;
-      default:
-        return false;
+    if (kHasLines && (key.key() == Qt::Key_PageUp || key.key() == Qt::Key_PageDown)) {
+      TurnPage(key.key() == Qt::Key_PageUp ? QTextCursor::Up : QTextCursor::Down);
+      return false;
     }
+    const bool marks = key.modifiers().testFlag(Qt::ShiftModifier);
+    // The control knows the keys of the caret, one character or line at a time.
+    if (!marks && !key.modifiers().testFlag(Qt::ControlModifier)) return false;
+    const auto move = MoveOf(key);
+    if (move == QTextCursor::NoMove) return false;
+    const int to = CharactersAt(Moved(*this, UnitsInField(Caret()), move));
+    Mark(marks ? Anchor() : to, to);
+    return true;
   }
 
  protected:
@@ -138,17 +188,35 @@ class PassiveEdit : public Field {
     menu.addAction(QObject::tr("Select &All"), this, [this] { Actions.SetCaret(0, Length()); });
     menu.exec(event->globalPos());
   }
+  // What is being composed stands in the field alone; the control gets what is committed.
   void inputMethodEvent(QInputMethodEvent* event) override {
-    if (!event->commitString().isEmpty()) Actions.Type(event->commitString());
     event->accept();
+    if (Field::isReadOnly()) return;
+    const auto committed = event->commitString();
+    const auto composed = event->preeditString();
+    SetComposes(!composed.isEmpty());
+    QInputMethodEvent shown(composed, event->attributes());
+    showing_ = true;
+    Field::inputMethodEvent(&shown);
+    showing_ = false;
+    if (composed.isEmpty()) ShowState({Given(source_), start_, length_});
+    if (event->replacementLength() > 0) {
+      const int caret = UnitsBefore(source_, start_ + length_);
+      const int from = CharactersBefore(source_, caret + event->replacementStart());
+      const int to = CharactersBefore(source_, caret + event->replacementStart() + event->replacementLength());
+      Actions.SetCaret(from, to - from);
+    }
+    if (!committed.isEmpty()) Actions.Type(committed);
   }
   // Keys come by the window.
   void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
 
  private:
+  static constexpr bool kHasLines = std::is_base_of_v<QPlainTextEdit, Field>;
+
   // A field of several lines holds line ends as one unit.
   static QString InField(QString text) {
-    if constexpr (std::is_base_of_v<QPlainTextEdit, Field>) text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    if (kHasLines) text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     return text;
   }
 
@@ -158,22 +226,52 @@ class PassiveEdit : public Field {
 
   [[nodiscard]] int Length() const { return CharactersBefore(source_, static_cast<int>(source_.size())); }
 
-  [[nodiscard]] int At(QPoint point) const {
-    const int position = PositionAt(*this, point);
+  [[nodiscard]] int At(QPoint point) const { return CharactersAt(PositionAt(*this, point)); }
+
+  // The other direction of `UnitsInField`.
+  [[nodiscard]] int CharactersAt(int unitsInField) const {
     int units = 0;
-    for (int shown = 0; shown < position && units < source_.size(); ++shown) {
-      units += InField(source_.mid(units, 2)).size() == 1 && source_.size() - units >= 2 ? 2 : 1;
-    }
+    for (; unitsInField > 0 && units < source_.size(); --unitsInField) units += IsLineEnd(units) ? 2 : 1;
     return CharactersBefore(source_, units);
   }
 
+  [[nodiscard]] bool IsLineEnd(int units) const {
+    return kHasLines && units + 1 < source_.size() && source_.at(units) == u'\r' && source_.at(units + 1) == u'\n';
+  }
+
+  [[nodiscard]] int Anchor() const { return anchorFirst_ ? start_ : start_ + length_; }
+  [[nodiscard]] int Caret() const { return anchorFirst_ ? start_ + length_ : start_; }
+
   void Mark(int from, int to) {
     anchorFirst_ = from <= to;
+    const QScopedValueRollback<bool> own(marking_, true);
     Actions.SetCaret(std::min(from, to), std::abs(to - from));
   }
-  void Extend(int to) {
-    if (length_ == 0) anchorFirst_ = to >= start_;
-    Mark(anchorFirst_ ? start_ : start_ + length_, std::clamp(to, 0, Length()));
+  static QTextCursor::MoveOperation MoveOf(const QKeyEvent& key) {
+    const bool far = key.modifiers().testFlag(Qt::ControlModifier);
+    switch (key.key()) {
+      case Qt::Key_Left:
+        return far ? QTextCursor::PreviousWord : QTextCursor::PreviousCharacter;
+      case Qt::Key_Right:
+        return far ? QTextCursor::NextWord : QTextCursor::NextCharacter;
+      case Qt::Key_Home:
+        return far ? QTextCursor::Start : QTextCursor::StartOfLine;
+      case Qt::Key_End:
+        return far ? QTextCursor::End : QTextCursor::EndOfLine;
+      case Qt::Key_Up:
+        return kHasLines ? QTextCursor::Up : QTextCursor::NoMove;
+      case Qt::Key_Down:
+        return kHasLines ? QTextCursor::Down : QTextCursor::NoMove;
+      default:
+        return QTextCursor::NoMove;
+    }
+  }
+
+  // The control does not know how much of its text is seen at a time.
+  void TurnPage(QTextCursor::MoveOperation move) {
+    const int lines = std::max(Field::contentsRect().height() / Field::fontMetrics().lineSpacing() - 1, 1);
+    const int to = CharactersAt(Moved(*this, UnitsInField(Caret()), move, lines));
+    Mark(to, to);
   }
 
   [[nodiscard]] QString Marked() const {
@@ -211,6 +309,7 @@ class PassiveEdit : public Field {
   int length_ = 0;
   int anchor_ = 0;
   bool anchorFirst_ = true;  // whether the mark grows at its end
+  bool marking_ = false;
   bool showing_ = false;
   bool pastesStrayText_ = true;
 };

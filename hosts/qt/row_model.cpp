@@ -2,53 +2,52 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "qt/texts.h"
 
 namespace orlin {
 
 int WidthOfLongest(const std::vector<const std::string*>& texts, const QFontMetrics& metrics) {
-  // The advances of single letters tell which texts can be the widest; only these are measured as they are drawn.
-  std::array<int, 128> advances{};
-  const auto roughWidth = [&](const std::string& text) {
-    int width = 0;
-    for (const char c : text) {
-      const auto place = static_cast<unsigned char>(c) % advances.size();
-      if (advances[place] == 0) advances[place] = metrics.horizontalAdvance(QChar(static_cast<int>(place)));
-      width += advances[place];
+  // Adding up letters costs a fraction of measuring texts as they are drawn. Qt draws at whole or at broken places, so
+  // that the wider of both counts; a text of other letters is measured.
+  const QFontMetricsF exact(metrics);
+  std::array<double, 128> advances{};
+  double widest = 0;
+  for (const auto* text : texts) {
+    double width = 0;
+    for (const char c : *text) {
+      const auto place = static_cast<unsigned char>(c);
+      if (place >= advances.size()) {
+        width = metrics.horizontalAdvance(Shown(*text));
+        break;
+      }
+      auto& advance = advances[place];
+      if (advance == 0) {
+        advance = exact.horizontalAdvance(QChar(static_cast<int>(place)));
+        advance = std::max(advance, std::round(advance));
+      }
+      width += advance;
     }
-    return width;
-  };
-  std::vector<int> rough;
-  rough.reserve(texts.size());
-  for (const auto* text : texts) rough.push_back(roughWidth(*text));
-  const int most = rough.empty() ? 0 : *std::max_element(rough.begin(), rough.end());
-  int width = 0;
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    if (rough[i] * 10 >= most * 9) width = std::max(width, metrics.horizontalAdvance(Shown(*texts[i])));
+    widest = std::max(widest, width);
   }
-  return width;
+  return static_cast<int>(std::ceil(widest));
 }
 
-void RowModel::Take(const shown::RowList& list, const shown::ListBox* checks) {
+bool RowTexts::AreThoseOf(const shown::RowList& list) const {
   const auto count = static_cast<std::size_t>(list.ListCount());
   bool same = count == rows_.size();
   for (std::size_t row = 0; same && row < count; ++row) same = rows_[row] == list.List(static_cast<int>(row));
-  if (!same) {
-    beginResetModel();
-    rows_.resize(count);
-    for (std::size_t row = 0; row < count; ++row) rows_[row] = list.List(static_cast<int>(row));
-    width_ = -1;
-    endResetModel();
-  }
-  hasChecks_ = checks != nullptr;
-  if (!hasChecks_ || count == 0) return;
-  checked_.resize(count);
-  for (std::size_t row = 0; row < count; ++row) checked_[row] = checks->Selected(static_cast<int>(row));
-  emit dataChanged(index(0), index(static_cast<int>(count) - 1), {Qt::CheckStateRole});
+  return same;
 }
 
-int RowModel::Width(const QFont& font) const {
+void RowTexts::Take(const shown::RowList& list) {
+  rows_.clear();
+  for (int row = 0; row < list.ListCount(); ++row) rows_.push_back(list.List(row));
+  width_ = -1;
+}
+
+int RowTexts::Width(const QFont& font) const {
   if (width_ >= 0 && font == font_) return width_;
   std::vector<const std::string*> texts;
   texts.reserve(rows_.size());
@@ -57,14 +56,27 @@ int RowModel::Width(const QFont& font) const {
   return width_ = WidthOfLongest(texts, QFontMetrics(font));
 }
 
+void RowModel::Take(const shown::RowList& list, const shown::ListBox* checks) {
+  if (!texts_.AreThoseOf(list)) {
+    beginResetModel();
+    texts_.Take(list);
+    checked_.assign(texts_.Rows().size(), false);
+    endResetModel();
+  }
+  hasChecks_ = checks != nullptr;
+  if (!hasChecks_ || rowCount() == 0) return;
+  for (int row = 0; row < rowCount(); ++row) checked_[static_cast<std::size_t>(row)] = checks->Selected(row);
+  emit dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
+}
+
 int RowModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+  return parent.isValid() ? 0 : static_cast<int>(texts_.Rows().size());
 }
 
 QVariant RowModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const auto row = static_cast<std::size_t>(index.row());
-  if (role == Qt::DisplayRole || role == Qt::EditRole) return Shown(rows_[row]);
+  if (role == Qt::DisplayRole || role == Qt::EditRole) return Shown(texts_.Rows()[row]);
   if (role == Qt::CheckStateRole && hasChecks_) return checked_[row] ? Qt::Checked : Qt::Unchecked;
   return {};
 }

@@ -9,7 +9,23 @@
 
 namespace orlin {
 
-/// The rows of a list as they were when the window was last brought up to date.
+/// The texts of a list as they were when the window was last brought up to date.
+class RowTexts {
+ public:
+  [[nodiscard]] bool AreThoseOf(const shown::RowList& list) const;
+  void Take(const shown::RowList& list);
+
+  [[nodiscard]] const std::vector<std::string>& Rows() const noexcept { return rows_; }
+  /// The width of the longest row in that font.
+  [[nodiscard]] int Width(const QFont& font) const;
+
+ private:
+  std::vector<std::string> rows_;
+  mutable int width_ = -1;
+  mutable QFont font_;
+};
+
+/// The rows of a list box.
 class RowModel final : public QAbstractListModel {
  public:
   explicit RowModel(QObject* parent) : QAbstractListModel(parent) {}
@@ -17,18 +33,15 @@ class RowModel final : public QAbstractListModel {
   /// Takes the rows over; `checks` shows which are chosen by check marks.
   void Take(const shown::RowList& list, const shown::ListBox* checks);
 
-  /// The width of the longest row in that font.
-  [[nodiscard]] int Width(const QFont& font) const;
+  [[nodiscard]] int Width(const QFont& font) const { return texts_.Width(font); }
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
 
  private:
-  std::vector<std::string> rows_;
+  RowTexts texts_;
   std::vector<bool> checked_;
   bool hasChecks_ = false;
-  mutable int width_ = -1;
-  mutable QFont font_;
 };
 
 /// The width of the widest of some texts.

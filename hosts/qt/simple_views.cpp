@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
@@ -22,9 +23,31 @@
 namespace orlin {
 namespace {
 
+/// A label that tells when it is clicked.
+class ClickedLabel final : public QLabel {
+ public:
+  ClickedLabel(QWidget* parent, std::function<void()> onClick) : QLabel(parent), onClick_(std::move(onClick)) {}
+
+ protected:
+  // Only what takes the press gets the release.
+  void mousePressEvent(QMouseEvent* event) override { event->setAccepted(event->button() == Qt::LeftButton); }
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) onClick_();
+  }
+
+ private:
+  std::function<void()> onClick_;
+};
+
+bool IsMark(const shown::Control* control) {
+  return control != nullptr &&
+         (control->Kind() == ControlKind::CheckBox || control->Kind() == ControlKind::OptionButton);
+}
+
 class LabelView final : public ViewOf<shown::Label> {
  public:
-  LabelView(shown::Label& label, Desk& desk, QWidget* parent) : ViewOf(label, desk), label_(new QLabel(parent)) {
+  LabelView(shown::Label& label, Desk& desk, QWidget* parent)
+      : ViewOf(label, desk), label_(new ClickedLabel(parent, [this] { Click(); })) {
     label_->setTextFormat(Qt::PlainText);
   }
   [[nodiscard]] QWidget* Widget() const override { return label_; }
@@ -44,6 +67,12 @@ class LabelView final : public ViewOf<shown::Label> {
   }
 
  private:
+  // Where the label stands for the caption of a check box or an option, it is pressed like one.
+  void Click() {
+    auto* named = Its().Names();
+    if (IsMark(named)) At().Do([named] { return named->Press(); });
+  }
+
   QLabel* label_;
 };
 
@@ -83,8 +112,10 @@ class PressView : public ViewOf<Shown> {
   [[nodiscard]] QWidget* Widget() const override { return button_; }
   void Present() override {
     const auto& caption = this->Its().Caption();
-    button_->setText(Wrapped(orlin::Shown(caption), button_->fontMetrics(), CaptionWidth(*button_)));
-    if (!caption.empty()) button_->setAccessibleName(SpokenCaption(caption));
+    const auto text = Wrapped(orlin::Shown(caption), button_->fontMetrics(), CaptionWidth(*button_));
+    button_->setText(text);
+    // Of a caption in one line Qt makes the name itself.
+    if (!caption.empty()) button_->setAccessibleName(text.contains(u'\n') ? SpokenCaption(caption) : QString());
     if constexpr (!std::is_same_v<Shown, shown::Button>) button_->setChecked(this->Its().Value() != 0);
   }
 
@@ -197,36 +228,27 @@ int CaptionWidth(const QWidget& widget) {
   return std::max(usual, widget.window()->property(kCaptionWidth).toInt());
 }
 
-std::unique_ptr<ControlView> MakeLabelView(shown::Label& label, Desk& desk, QWidget* parent) {
-  return std::make_unique<LabelView>(label, desk, parent);
-}
-
-std::unique_ptr<ControlView> MakeFrameView(shown::Frame& frame, Desk& desk, QWidget* parent) {
-  return std::make_unique<FrameView>(frame, desk, parent);
-}
-
-std::unique_ptr<ControlView> MakeButtonView(shown::Button& button, Desk& desk, QWidget* parent) {
-  return std::make_unique<ButtonView>(button, desk, parent);
-}
-
-std::unique_ptr<ControlView> MakeCheckBoxView(shown::CheckBox& box, Desk& desk, QWidget* parent) {
-  return std::make_unique<CheckBoxView>(box, desk, parent);
-}
-
-std::unique_ptr<ControlView> MakeOptionView(shown::OptionButton& option, Desk& desk, QWidget* parent) {
-  return std::make_unique<OptionView>(option, desk, parent);
-}
-
-std::unique_ptr<ControlView> MakeUpDownView(shown::UpDown& buttons, Desk& desk, QWidget* parent) {
-  return std::make_unique<UpDownView>(buttons, desk, parent);
-}
-
-std::unique_ptr<ControlView> MakeStatusView(shown::StatusBar& line, Desk& desk, QWidget* parent) {
-  return std::make_unique<StatusView>(line, desk, parent);
-}
-
-std::unique_ptr<ControlView> MakeTimerView(shown::Timer& timer, Desk& desk, QWidget* parent) {
-  return std::make_unique<TimerView>(timer, desk, parent);
+std::unique_ptr<ControlView> MakeSimpleView(shown::Control& control, Desk& desk, QWidget* parent) {
+  switch (control.Kind()) {
+    case ControlKind::Label:
+      return MakeOne<LabelView>(control, desk, parent);
+    case ControlKind::Frame:
+      return MakeOne<FrameView>(control, desk, parent);
+    case ControlKind::Button:
+      return MakeOne<ButtonView>(control, desk, parent);
+    case ControlKind::CheckBox:
+      return MakeOne<CheckBoxView>(control, desk, parent);
+    case ControlKind::OptionButton:
+      return MakeOne<OptionView>(control, desk, parent);
+    case ControlKind::UpDown:
+      return MakeOne<UpDownView>(control, desk, parent);
+    case ControlKind::StatusBar:
+      return MakeOne<StatusView>(control, desk, parent);
+    case ControlKind::Timer:
+      return MakeOne<TimerView>(control, desk, parent);
+    default:
+      return nullptr;
+  }
 }
 
 }  // namespace orlin

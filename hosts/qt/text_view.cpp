@@ -9,7 +9,8 @@
 namespace orlin {
 namespace {
 
-constexpr int kColumnsOfLines = 60;
+constexpr int kColumnsOfLines = 72;
+constexpr int kColumnsOfTab = 13;
 constexpr int kLines = 7;
 constexpr int kUsualColumns = 24;
 
@@ -38,6 +39,7 @@ void Fit(PassiveLine& field, int maxLength) {
 void Fit(PassiveLines& field, int) {
   const auto metrics = field.fontMetrics();
   field.setMinimumSize(metrics.averageCharWidth() * kColumnsOfLines, metrics.lineSpacing() * kLines);
+  field.setTabStopDistance(metrics.averageCharWidth() * kColumnsOfTab);
   field.setTabChangesFocus(true);
   field.setUndoRedoEnabled(false);
 }
@@ -78,9 +80,10 @@ EditActions ActionsOn(shown::TextControl& box, Desk& desk) {
   return actions;
 }
 
-std::unique_ptr<ControlView> MakeTextBoxView(shown::TextBox& box, Desk& desk, QWidget* parent) {
-  if (box.MultiLine()) return std::make_unique<TextBoxView<PassiveLines>>(box, desk, parent);
-  return std::make_unique<TextBoxView<PassiveLine>>(box, desk, parent);
+std::unique_ptr<ControlView> MakeTextBoxView(shown::Control& control, Desk& desk, QWidget* parent) {
+  const bool multiLine = dynamic_cast<const shown::TextBox&>(control).MultiLine();
+  if (multiLine) return MakeOne<TextBoxView<PassiveLines>>(control, desk, parent);
+  return MakeOne<TextBoxView<PassiveLine>>(control, desk, parent);
 }
 
 }  // namespace orlin

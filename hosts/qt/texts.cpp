@@ -45,7 +45,7 @@ QString SpokenCaption(std::string_view caption) {
 
 QString Wrapped(const QString& text, const QFontMetrics& metrics, int width) {
   // Most captions are short; measuring a text costs more than anything else here.
-  if (text.size() * metrics.averageCharWidth() < width / 2 || metrics.horizontalAdvance(text) <= width) return text;
+  if (text.size() * metrics.averageCharWidth() * 5 / 4 < width || metrics.horizontalAdvance(text) <= width) return text;
   const int blank = metrics.horizontalAdvance(u' ');
   QStringList lines;
   for (const auto& paragraph : text.split(u'\n')) {

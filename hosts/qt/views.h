@@ -6,20 +6,17 @@
 
 namespace orlin {
 
-// One maker for each kind of control; see `MakeView`.
+/// What `MakeView` is made of. The control is of a kind that the view shows.
+template <class View>
+[[nodiscard]] std::unique_ptr<ControlView> MakeOne(shown::Control& control, Desk& desk, QWidget* parent) {
+  return std::make_unique<View>(dynamic_cast<typename View::Shows&>(control), desk, parent);
+}
 
-[[nodiscard]] std::unique_ptr<ControlView> MakeLabelView(shown::Label& label, Desk& desk, QWidget* parent);
-[[nodiscard]] std::unique_ptr<ControlView> MakeFrameView(shown::Frame& frame, Desk& desk, QWidget* parent);
-[[nodiscard]] std::unique_ptr<ControlView> MakeButtonView(shown::Button& button, Desk& desk, QWidget* parent);
-[[nodiscard]] std::unique_ptr<ControlView> MakeCheckBoxView(shown::CheckBox& box, Desk& desk, QWidget* parent);
-[[nodiscard]] std::unique_ptr<ControlView> MakeOptionView(shown::OptionButton& option, Desk& desk, QWidget* parent);
-[[nodiscard]] std::unique_ptr<ControlView> MakeTextBoxView(shown::TextBox& box, Desk& desk, QWidget* parent);
-[[nodiscard]] std::unique_ptr<ControlView> MakeComboBoxView(shown::ComboBox& box, Desk& desk, QWidget* parent);
-[[nodiscard]] std::unique_ptr<ControlView> MakeListBoxView(shown::ListBox& list, Desk& desk, QWidget* parent);
-[[nodiscard]] std::unique_ptr<ControlView> MakeUpDownView(shown::UpDown& buttons, Desk& desk, QWidget* parent);
-[[nodiscard]] std::unique_ptr<ControlView> MakeStatusView(shown::StatusBar& line, Desk& desk, QWidget* parent);
-[[nodiscard]] std::unique_ptr<ControlView> MakeTimerView(shown::Timer& timer, Desk& desk, QWidget* parent);
-[[nodiscard]] std::unique_ptr<ControlView> MakeGridView(shown::Grid& grid, Desk& desk, QWidget* parent);
+[[nodiscard]] std::unique_ptr<ControlView> MakeSimpleView(shown::Control& control, Desk& desk, QWidget* parent);
+[[nodiscard]] std::unique_ptr<ControlView> MakeTextBoxView(shown::Control& control, Desk& desk, QWidget* parent);
+[[nodiscard]] std::unique_ptr<ControlView> MakeComboBoxView(shown::Control& control, Desk& desk, QWidget* parent);
+[[nodiscard]] std::unique_ptr<ControlView> MakeListBoxView(shown::Control& control, Desk& desk, QWidget* parent);
+[[nodiscard]] std::unique_ptr<ControlView> MakeGridView(shown::Control& control, Desk& desk, QWidget* parent);
 
 /// The property of a window that tells how wide its captions may be at least.
 inline constexpr const char* kCaptionWidth = "captionWidth";
