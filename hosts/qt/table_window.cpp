@@ -2,18 +2,33 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "qt/texts.h"
 
 namespace orlin {
+namespace {
+
+/// Rows are what one moves about in: Home and End go to the first and the last of them.
+class RowTable final : public QTableWidget {
+ public:
+  using QTableWidget::QTableWidget;
+
+ protected:
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override {
+    if (action == MoveHome) return model()->index(0, currentColumn());
+    if (action == MoveEnd) return model()->index(rowCount() - 1, currentColumn());
+    return QTableWidget::moveCursor(action, modifiers);
+  }
+};
+
+}  // namespace
 
 TableWindow::TableWindow(ParameterTable& table) : table_(table) {
   setWindowTitle(Shown(table.Title()));
   const auto columns = table.Columns();
-  view_ = new QTableWidget(static_cast<int>(table.Rows()), static_cast<int>(columns.size()), this);
+  view_ = new RowTable(static_cast<int>(table.Rows()), static_cast<int>(columns.size()), this);
   for (std::size_t i = 0; i < columns.size(); ++i) {
     auto* title = new QTableWidgetItem(Shown(columns[i]));
     title->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -44,6 +59,11 @@ TableWindow::TableWindow(ParameterTable& table) : table_(table) {
 }
 
 void TableWindow::Work() { exec(); }
+
+void TableWindow::keyPressEvent(QKeyEvent* event) {
+  // One Escape too many after an editor does not close the account.
+  if (event->key() != Qt::Key_Escape) QDialog::keyPressEvent(event);
+}
 
 void TableWindow::FillRow(int row) {
   const auto texts = table_.Row(static_cast<std::size_t>(row));

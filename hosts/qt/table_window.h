@@ -18,6 +18,9 @@ class TableWindow final : public QDialog {
   /// Lets the operator work until the window is closed.
   void Work();
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void FillRow(int row);
   void OpenRow(int row);
