@@ -1,45 +1,34 @@
+#include <tuple>
+
+#include "form_fixture.h"
 #include "frame/controls.h"
-#include "support/frame_fixture.h"
 
 namespace orlin::testing {
 namespace {
 
 /// A grid of two columns, the first row and column fixed, as a dialog with editable cells sets it up.
-class GridTest : public FrameTest {
+class GridTest : public FormTest {
  protected:
   GridTest() {
     for (int row = 1; row < 4; ++row) fa.SetCellText(row, 1, std::to_string(row) + "a");
     fa.DblClick = [this] { fa.EditCell(); };
-    fa.StartEdit = [this](int row, int col, bool&) { Note("start", row, col); };
+    fa.StartEdit = [this](int row, int col, bool&) { NoteAt("start", row, col); };
     fa.KeyPressEdit = [this](int row, int col, int& key) {
-      Note("key " + std::to_string(key), row, col);
+      NoteAt("key " + std::to_string(key), row, col);
       if (key == 'x') key = 0;
     };
     fa.AfterEdit = [this](int row, int col) {
-      Note("after <" + fa.EditorText() + "> <" + fa.CellText(row, col) + ">", row, col);
+      NoteAt("after <" + fa.EditorText() + "> <" + fa.CellText(row, col) + ">", row, col);
     };
     txtOther.GotFocus = [this] { Host->Happened.emplace_back("txtOther_GotFocus"); };
   }
 
-  void Note(const std::string& what, int row, int col) {
-    Host->Happened.push_back(what + " " + std::to_string(row) + "," + std::to_string(col));
-    EXPECT_EQ(fa.Row(), row);
-    EXPECT_EQ(fa.Col(), col);
+  void NoteAt(const std::string& what, int row, int col) {
+    Note(what + " " + std::to_string(row) + "," + std::to_string(col));
+    EXPECT_EQ(Current(), std::pair(row, col));
   }
-  Log During(const std::function<void()>& action) {
-    Log log;
-    Host->Operate = [&](shown::Dialog&) {
-      Host->Happened.clear();
-      action();
-      log = Host->Happened;
-    };
-    Form.ShowModal();
-    return log;
-  }
-  void Press(int code) { Form.PressKey(Key::Named(code)); }
-  void Type(char32_t character) { Form.PressKey(Key::Typing(character)); }
+  std::pair<int, int> Current() { return {fa.Row(), fa.Col()}; }
 
-  Dialog Form{"frmTest", "", {}};
   Grid fa{Form, "fa", {.Rows = 4, .Cols = 2, .FixedRows = 1, .FixedCols = 1}};
   TextBox txtOther{Form, "txtOther"};
   OKButton cmdOK{Form, "OK"};
@@ -55,8 +44,7 @@ TEST_F(GridTest, EnterPutsTheTextIntoTheCell) {
 TEST_F(GridTest, LeavingTheCellOrTheGridKeepsTheText) {
   EXPECT_EQ(During([&] { fa.DoubleClick(), Type(U'b'), fa.MakeCurrent(2, 1); }).back(), "after <1ab> <1ab> 1,1");
   EXPECT_EQ(fa.Row(), 2);
-  const auto leaving = During([&] { fa.DoubleClick(), Type(U'c'), Press(keys::Tab); });
-  EXPECT_EQ(leaving.back(), "txtOther_GotFocus");
+  EXPECT_EQ(During([&] { fa.DoubleClick(), Type(U'c'), Press(keys::Tab); }).back(), "txtOther_GotFocus");
   EXPECT_EQ(fa.CellText(2, 1), "2ac");
   EXPECT_EQ(During([&] { fa.DoubleClick(), Type(U'd'), Press(keys::Up); }).back(), "after <2acd> <2acd> 2,1");
   EXPECT_EQ(fa.Row(), 1);
@@ -72,13 +60,12 @@ TEST_F(GridTest, EditorTakesPasteAndCaret) {
 }
 
 TEST_F(GridTest, FixedCellsAreNeverCurrent) {
+  const std::pair first{1, 1};
   During([&] {
-    EXPECT_EQ(fa.Row(), 1);
-    EXPECT_EQ(fa.Col(), 1);
+    EXPECT_EQ(Current(), first);
     for (const auto& [row, col] : {std::pair{0, 1}, {1, 0}, {4, 1}, {1, 2}}) EXPECT_TRUE(fa.MakeCurrent(row, col));
     Press(keys::Up), Press(keys::Left);
-    EXPECT_EQ(fa.Row(), 1);
-    EXPECT_EQ(fa.Col(), 1);
+    EXPECT_EQ(Current(), first);
     Press(keys::End);
     EXPECT_EQ(fa.Row(), 3);
   });
@@ -86,17 +73,13 @@ TEST_F(GridTest, FixedCellsAreNeverCurrent) {
 
 TEST_F(GridTest, RowsComeAndGo) {
   fa.AddItem("t\tnew\tbeyond", 1);
-  EXPECT_EQ(fa.Rows(), 5);
-  EXPECT_EQ(fa.CellText(1, 1), "new");
-  EXPECT_EQ(fa.CellText(2, 1), "1a");
+  EXPECT_EQ(std::tuple(fa.Rows(), fa.CellText(1, 1), fa.CellText(2, 1)), std::tuple(5, "new", "1a"));
   fa.RemoveItem(1);
   EXPECT_EQ(fa.CellText(1, 1), "1a");
-  fa.SelectCell(3, 1);
-  fa.SetRows(2);
+  fa.SelectCell(3, 1), fa.SetRows(2);
   EXPECT_EQ(fa.Row(), 1);
   fa.SetRows(1);
   EXPECT_EQ(fa.Row(), -1);
-  EXPECT_EQ(fa.CellText(7, 7), "");
   fa.SetCellText(7, 7, "ignored");
   EXPECT_EQ(fa.CellText(7, 7), "");
   EXPECT_EQ(FailureOf([&] { fa.RemoveItem(1); }), failures::InvalidPropertyValue);

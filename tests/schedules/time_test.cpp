@@ -1,13 +1,11 @@
 #include <string>
-#include <vector>
+#include <tuple>
 
 #include "OrlinCustomDialogs/schedules.h"
 
 #include "frame/modGeneral.h"
-#include "standard_platform.h"
+#include "support/broken_catalogue.h"
 #include "support/dialog_test.h"
-#include "support/frame_fixture.h"
-#include "support/temporary_folder.h"
 
 namespace orlin::testing {
 namespace {
@@ -17,18 +15,15 @@ DialogRun Open(int minutes, const std::string& script) {
 }
 
 TEST(Time, GivesBackTheMinutesSinceMidnight) {
-  const struct {
-    int Index;
-    const char* Hour;
-    const char* Minute;
-  } cases[] = {{0, "00", "00"}, {1439, "23", "59"}, {754, "12", "34"}, {59, "00", "59"}, {60, "01", "00"}};
-  for (const auto& one : cases) {
-    const auto run = Open(one.Index, "dump\nclick cmdOK");
-    EXPECT_EQ(run.Control("txtHour").at("text"), one.Hour);
-    EXPECT_EQ(run.Control("txtMinute").at("text"), one.Minute);
+  const std::tuple<int, const char*, const char*> cases[] = {
+      {0, "00", "00"}, {1439, "23", "59"}, {754, "12", "34"}, {59, "00", "59"}, {60, "01", "00"}};
+  for (const auto& [index, hour, minute] : cases) {
+    const auto run = Open(index, "dump\nclick cmdOK");
+    EXPECT_EQ(run.Control("txtHour").at("text"), hour);
+    EXPECT_EQ(run.Control("txtMinute").at("text"), minute);
     EXPECT_EQ(run.Result, 0);
-    EXPECT_EQ(run.Argument("res"), Integer(one.Index));
-    EXPECT_EQ(run.Argument("Index"), Integer(one.Index));
+    EXPECT_EQ(run.Argument("res"), Integer(index));
+    EXPECT_EQ(run.Argument("Index"), Integer(index));
   }
 }
 
@@ -52,8 +47,7 @@ TEST(Time, TakesTheKeysOfAnyTime) {
       {"the first digit replaces all", "type txtHour \"23\"", "23", "34", 1414},
       {"above the limit", "type txtHour \"24\"", "2", "34", 154, 1},
       {"before a digit", "type txtHour \"3\"\nkey txtHour Home\ntype txtHour \"1\"", "13", "34", 814},
-      {"before a digit, above the limit", "type txtHour \"3\"\nkey txtHour Home\ntype txtHour \"3\"", "3", "34", 214,
-       1},
+      {"33 is above it", "type txtHour \"3\"\nkey txtHour Home\ntype txtHour \"3\"", "3", "34", 214, 1},
       {"between digits counts as behind them", "caret txtHour 1 0\ntype txtHour \"0\"", "12", "34", 754, 1},
       {"behind two digits", "type txtHour \"012\"", "01", "34", 94},
       {"first minute digit", "type txtMinute \"60\"", "12", "6", 726, 1},
@@ -81,52 +75,37 @@ TEST(Time, TakesTheKeysOfAnyTime) {
   }
 }
 
-TEST(Time, StepsWithoutMovingTheCaret) {
-  const auto run = Open(754, "caret txtHour 1 0\nkey txtHour Up\nkey txtHour PageDown\nkey txtHour Up\ndump");
+TEST(Time, PromptsForTheBoxThatHasTheFocusAndStepsWithoutMovingTheCaret) {
+  const auto run = Open(
+      754,
+      "dump\nfocus txtMinute\ndump\nfocus cmdOK\ndump\ncaret txtHour 1 0\nkey - Up\nkey - PageDown\nkey - Up\ndump");
+  EXPECT_EQ(run.Fields("state", "caption")[0], Text(1175));
+  const auto prompt = [&](std::size_t dump) { return run.Control("StatusBar1", dump).at("text"); };
+  EXPECT_EQ(prompt(0), Text(1177, "NUMBER", "1"));
+  EXPECT_EQ(run.Control("txtHour", 0).at("selLength"), 2);
+  EXPECT_EQ(prompt(1), Text(1178, "NUMBER", "1"));
+  EXPECT_EQ(run.Control("txtMinute", 1).at("selLength"), 2);
+  EXPECT_EQ(prompt(2), "");
   EXPECT_EQ(run.Control("txtHour").at("text"), "13");
   EXPECT_EQ(run.Control("txtHour").at("selStart"), 1);
-}
-
-TEST(Time, PromptsForTheBoxThatHasTheFocus) {
-  const auto run = Open(754, "dump\nfocus txtMinute\ndump\nfocus cmdOK\ndump");
-  EXPECT_EQ(run.Control("StatusBar1", 0).at("text"), Text(1177, "NUMBER", "1"));
-  EXPECT_EQ(run.Control("txtHour", 0).at("selLength"), 2);
-  EXPECT_EQ(run.Control("StatusBar1", 1).at("text"), Text(1178, "NUMBER", "1"));
-  EXPECT_EQ(run.Control("txtMinute", 1).at("selLength"), 2);
-  EXPECT_EQ(run.Control("StatusBar1", 2).at("text"), "");
-  EXPECT_EQ(run.Events("state").at(0).at("caption"), Text(1175));
 }
 
 // More minutes than a day has, for want of anything else that fails.
 constexpr std::int16_t kTooLate = 32767;
 
-TEST(Time, ReportsFailuresOfItsHandlers) {
-  const auto host = std::make_shared<OperatorHost>();
-  host->Answers = {answers::Ok};
-  host->Operate = [](shown::Dialog& dialog) {
-    dialog.Find("txtMinute")->Focus();
-    dialog.PressKey(Key::Named(keys::Up));
-    dialog.Find("cmdOK")->Press();
+using TimeFaults = BrokenCatalogueTest;
+
+TEST_F(TimeFaults, FailureOfAHandlerIsReportedAndTheDialogStays) {
+  Host->Answers = {answers::Ok};
+  Host->Operate = [](shown::Dialog& dialog) {
+    dialog.Find("txtMinute")->Focus(), dialog.PressKey(Key::Named(keys::Up)), dialog.Find("cmdOK")->Press();
     EXPECT_TRUE(dialog.IsShown());
   };
-  const TemporaryFolder folder;
-  std::vector<LoggedFault> faults;
-  StandardPlatformOptions options;
-  options.Host = host;
-  options.FaultFile = folder.Path() / "Tolmar.err";
-  options.OnFaultLogged = [&](const LoggedFault& fault) { faults.push_back(fault); };
-  UsePlatform(StandardPlatform(options));
   ASSERT_EQ(InitApplicationVariables(), 0);
   Value time = "kept";
   EXPECT_EQ(clsTime_FirePanels().Display(kTooLate, time), 2);
-  UsePlatform({});
   EXPECT_EQ(time, "kept");
-  ASSERT_EQ(faults.size(), 1U);
-  EXPECT_EQ(faults[0].Number, failures::Overflow);
-  EXPECT_EQ(faults[0].Module, "frmTime");
-  EXPECT_EQ(faults[0].Procedure, "cmdOK_Click");
-  EXPECT_EQ(faults[0].AdditionalText, "");
-  EXPECT_TRUE(faults[0].Shown);
+  EXPECT_EQ(Faults, Log{"frmTime cmdOK_Click 6"});
 }
 
 TEST(Time, FailsAgainWithoutAFaultObject) {

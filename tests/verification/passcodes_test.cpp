@@ -1,4 +1,7 @@
+#include <functional>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "OrlinCustomDialogs/verification.h"
@@ -9,8 +12,6 @@
 
 namespace orlin::testing {
 namespace {
-
-using Strings = std::vector<std::string>;
 
 Value Users(const Strings& codes) {
   std::vector<Value> all(codes.begin(), codes.end());
@@ -55,36 +56,33 @@ std::string Edit(int row, const std::string& text) {
 }
 
 TEST(Passcodes, TypeOfApplicationSetsTheLayout) {
-  for (const std::string type : {"0", "2"}) {
-    const auto run = Account{.Codes = {"12345", "22", "3333"}, .Type = type}.Play("dump");
-    EXPECT_EQ(run.Control("fa").at("cells"), Cells({{"0", "1234"}, {"1", "22"}, {"2", "3333"}, {"3", ""}}));
-    EXPECT_EQ(run.Control("optSave").at("visible"), true);
-    EXPECT_EQ(run.Control("optSave").at("value"), true);
-    EXPECT_EQ(run.Control("optPlZeroSsave").at("visible"), true);
-    EXPECT_EQ(run.Control("lblCaption").at("caption"), Text(10722) + "\r\n" + Text(10723) + "4.");
-  }
-  const auto usual = Account{.Codes = {}}.Play("dump");
+  const auto top = [](const DialogRun& run, const char* name) { return run.Control(name).at("top").get<int>(); };
+  const auto usual = Account{.Codes = {"12345", "22", "3333"}}.Play("dump\nkey - Enter");
+  const auto users = Account{.Codes = {"12345", "22222", "3333", "", "44444"}, .Type = "1"}.Play("dump");
+  EXPECT_EQ(usual.Control("fa").at("cells"), Cells({{"0", "1234"}, {"1", "22"}, {"2", "3333"}, {"3", ""}}));
+  EXPECT_EQ(usual.Control("lblCaption").at("caption"), Text(10722) + "\r\n" + Text(10723) + "4.");
   EXPECT_EQ(usual.Events("show").at(0).at("caption"), Text(10717));
-  const std::vector<std::pair<const char*, int>> captions = {
-      {"Label1", 10726}, {"Label2", 10727}, {"optSave", 10718}, {"optPlZeroSsave", 10732}, {"cmdOK", 101}};
-  for (const auto& [name, text] : captions) EXPECT_EQ(usual.Control(name).at("caption"), Text(text));
-  const auto run = Account{.Codes = {"12345", "22222", "3333", "", "44444"}, .Type = "1"}.Play("dump");
-  EXPECT_EQ(run.Control("fa").at("cells"), Cells({{"1", "2222"}, {"2", "3333"}, {"3", ""}}));
-  EXPECT_EQ(run.Control("optSave").at("visible"), false);
-  EXPECT_EQ(run.Control("optPlZeroSsave").at("visible"), false);
-  const auto top = [](const DialogRun& of, const char* name) { return of.Control(name).at("top").get<int>(); };
-  for (const auto* name : {"Label1", "Label2", "Shape1", "Shape2"}) {
-    EXPECT_EQ(top(run, name), top(usual, "Label1") - 1470) << name;
+  EXPECT_EQ(usual.Control("optPlZeroSsave").at("caption"), Text(10732));
+  EXPECT_EQ(usual.Control("optSave").at("value"), true);
+  EXPECT_EQ(usual.Control("lstMatch").at("list"), Items(10713));
+  EXPECT_EQ(usual.Control("lstUnusable").at("list"), Items(10714));
+  EXPECT_EQ(usual.Argument("bChangedStatus"), Integer(1)) << "nobody is in trouble";
+  EXPECT_EQ(users.Control("fa").at("cells"), Cells({{"1", "2222"}, {"2", "3333"}, {"3", ""}}));
+  for (const auto* name : {"optSave", "optPlZeroSsave"}) {
+    EXPECT_EQ(usual.Control(name).at("visible"), true);
+    EXPECT_EQ(users.Control(name).at("visible"), false);
   }
-  for (const auto* name : {"cmdOK", "cmdCancel"}) EXPECT_EQ(top(run, name), top(usual, "cmdOK") - 1200) << name;
-  EXPECT_EQ(run.Argument("vresult"), Users({"1234", "2222", "3333", "", "44444"})) << "nothing behind the last user";
+  for (const auto* name : {"Label1", "Label2", "Shape1", "Shape2"}) {
+    EXPECT_EQ(top(users, name), top(usual, "Label1") - 1470) << name;
+  }
+  for (const auto* name : {"cmdOK", "cmdCancel"}) EXPECT_EQ(top(users, name), top(usual, "cmdOK") - 1200) << name;
+  EXPECT_EQ(users.Argument("vresult"), Users({"1234", "2222", "3333", "", "44444"})) << "nothing behind the last user";
 }
 
 TEST(Passcodes, EntriesInTroubleAreListedAndMarked) {
   const auto run = Account{.Codes = {"1234", "12", "", "5678"}, .InTrouble = {"12349", "12", "", "5678"}}.Play("dump");
   EXPECT_EQ(run.Control("lstMatch").at("list"), Items(10713, {"0   : 1234", "3   : 5678"}));
   EXPECT_EQ(run.Control("lstUnusable").at("list"), Items(10714, {"1   : 12"}));
-  EXPECT_EQ(run.Control("lstExisting").at("list"), Items(10715));
   EXPECT_EQ(run.Control("fa").at("colours"), (Json{{0, 0}, {0, 255}, {0, 16711680}, {0, 0}, {0, 255}}));
   EXPECT_EQ(run.Control("fa").at("bold"),
             (Json{{false, false}, {false, true}, {false, true}, {false, false}, {false, true}}));
@@ -102,63 +100,41 @@ TEST(Passcodes, UserZeroWithoutARowIsListedAndTheLastUserIsMarked) {
   EXPECT_EQ(run.Argument("vresult"), Users({"1234", "", "", "9999"}));
 }
 
-TEST(Passcodes, NothingInTroubleAllowsOKAtOnce) {
-  const auto run = Account{.Codes = {"1234"}}.Play("dump\nkey - Enter");
-  EXPECT_EQ(run.Control("lstMatch").at("list"), Items(10713));
-  EXPECT_EQ(run.Control("lstUnusable").at("list"), Items(10714));
-  EXPECT_EQ(run.Argument("bChangedStatus"), Integer(1));
-  EXPECT_EQ(run.Result, 0);
-}
-
 TEST(Passcodes, PasscodeInTheFamilyOfAnotherUserIsRefused) {
-  const struct {
-    const char* Theirs;
-    const char* Mine;
-    bool Conflict;
-  } cases[] = {{"1230", "1238", true},  {"1230", "1232", true}, {"1230", "1237", false}, {"1231", "1239", true},
-               {"1231", "1238", false}, {"1238", "1230", true}, {"1238", "1231", false}, {"1239", "1231", true},
-               {"1239", "1232", false}, {"1234", "1234", true}, {"1234", "1236", true},  {"1234", "1232", true},
-               {"1234", "1237", false}, {"1234", "2234", false}};
-  for (const auto& [theirs, mine, conflict] : cases) {
-    SCOPED_TRACE(theirs + std::string(" ") + mine);
-    const auto run = Account{.Codes = {"9", theirs}, .InTrouble = {"9"}}.Play((conflict ? "answer 1\n" : "") +
-                                                                              Edit(1, mine) + "dump");
-    EXPECT_EQ(run.Control("fa").at("cells")[1][1], conflict ? "9" : mine);
-    EXPECT_EQ(run.Control("cmdOK").at("enabled"), !conflict);
-    EXPECT_EQ(run.Fields("message", "text"), Texts({conflict ? 10725 : 0}));
+  // Type, codes of users 0 and 1, what is typed in the first row, conflict. The own passcode stands in the way for
+  // other types than 0 and 1 only, where that of the wrong user does not.
+  const std::tuple<std::string, std::string, std::string, std::string, bool> cases[] = {
+      {"0", "", "1230", "1238", true},      {"0", "", "1230", "1237", false},     {"0", "", "1230", "1232", true},
+      {"0", "", "1231", "1239", true},      {"0", "", "1231", "1238", false},     {"0", "", "1238", "1230", true},
+      {"0", "", "1238", "1231", false},     {"0", "", "1239", "1231", true},      {"0", "", "1239", "1232", false},
+      {"0", "", "1234", "1234", true},      {"0", "", "1234", "1237", false},     {"0", "", "1234", "2234", false},
+      {"0", "1111", "2222", "1112", false}, {"1", "1111", "2222", "2221", false}, {"2", "1111", "2222", "2222", false},
+      {"2", "1111", "2222", "1112", true}};
+  for (const auto& [type, zero, one, mine, conflict] : cases) {
+    const auto run =
+        Account{.Codes = {zero, one}, .Type = type}.Play((conflict ? "answer 1\n" : "") + Edit(1, mine) + "dump");
+    EXPECT_EQ(run.Control("fa").at("cells")[1][1], conflict ? zero : mine) << one;
+    EXPECT_EQ(run.Fields("message", "text"), Texts({conflict ? 10725 : 0})) << one << mine;
   }
 }
 
-TEST(Passcodes, OwnPasscodeStandsInTheWayForOtherTypesOnly) {
-  // Row 1 holds user 0 or, for type 1, user 1, whose own passcode does not stand in his way; for type 2 that of the
-  // wrong user does not.
-  EXPECT_TRUE((Account{.Codes = {"1111", "2222"}}.Play(Edit(1, "1112")).Events("message").empty()));
-  EXPECT_TRUE((Account{.Codes = {"1111", "2222"}, .Type = "1"}.Play(Edit(1, "2221")).Events("message").empty()));
-  EXPECT_TRUE((Account{.Codes = {"1111", "2222"}, .Type = "2"}.Play(Edit(1, "2222")).Events("message").empty()));
-  const auto refused = Account{.Codes = {"1111", "2222"}, .Type = "2"}.Play("answer 1\n" + Edit(1, "1112"));
-  EXPECT_EQ(refused.Fields("message", "text"), Texts({10725}));
-}
-
 TEST(Passcodes, CorrectingOneOfTwoInConflictClearsBoth) {
-  const auto run = Account{.Codes = {"1234", "1236", "12"}, .InTrouble = {"1234", "1236", "12"}}.Play(
-      Edit(1, "5555") + "dump\n" + Edit(3, "") + "dump\nclick optPlZeroSsave\nclick optSave\nclick cmdOK");
-  EXPECT_EQ(run.Control("lstMatch", 0).at("list"), Items(10713));
-  EXPECT_EQ(run.Control("lstUnusable", 0).at("list"), Items(10714, {"2   : 12"}));
-  EXPECT_EQ(run.Control("cmdOK", 0).at("enabled"), false);
-  EXPECT_EQ(run.Control("fa", 0).at("row"), 1);
-  EXPECT_EQ(run.Control("lstUnusable", 1).at("list"), Items(10714));
-  EXPECT_EQ(run.Control("fa", 1).at("colours")[3][1], 0);
-  EXPECT_EQ(run.Control("fa", 1).at("bold")[3][1], false);
-  EXPECT_EQ(run.Control("cmdOK", 1).at("enabled"), true);
-  EXPECT_EQ(run.Argument("vresult"), Users({"5555", "1236"}));
+  const Strings codes = {"1234", "1236", "12", "1235"};
+  const auto run = Account{.Codes = codes, .InTrouble = codes}.Play(
+      Edit(4, "7777") + "dump\n" + Edit(1, "5555") + "dump\n" + Edit(3, "") +
+      "dump\nclick optPlZeroSsave\nclick optSave\nclick cmdOK");
+  const auto lists = [&](std::size_t dump) {
+    return std::pair(run.Control("lstMatch", dump).at("list"), run.Control("lstUnusable", dump).at("list"));
+  };
+  EXPECT_EQ(lists(0), std::pair(Items(10713, {"0   : 1234", "1   : 1236"}), Items(10714, {"2   : 12"})));
+  EXPECT_EQ(lists(1), std::pair(Items(10713), Items(10714, {"2   : 12"})));
+  EXPECT_EQ(run.Control("fa", 1).at("row"), 1);
+  EXPECT_EQ(lists(2), std::pair(Items(10713), Items(10714)));
+  EXPECT_EQ(run.Control("fa", 2).at("colours")[3][1], 0);
+  EXPECT_EQ(run.Control("fa", 2).at("bold")[3][1], false);
+  for (const std::size_t dump : {0, 1, 2}) EXPECT_EQ(run.Control("cmdOK", dump).at("enabled"), dump == 2);
+  EXPECT_EQ(run.Argument("vresult"), Users({"5555", "1236", "", "7777"}));
   EXPECT_EQ(run.Argument("vpresent"), Users({}));
-}
-
-TEST(Passcodes, TroubleThatRemainsKeepsItsEntries) {
-  const auto run = Account{.Codes = {"1234", "1235", "1236", "12"}, .InTrouble = {"1234", "1235", "1236", "12"}}.Play(
-      Edit(1, "7777") + "dump");
-  EXPECT_EQ(run.Control("lstMatch").at("list"), Items(10713, {"1   : 1235", "2   : 1236"}));
-  EXPECT_EQ(run.Control("lstUnusable").at("list"), Items(10714, {"3   : 12"}));
 }
 
 TEST(Passcodes, WrongCorrectionGoesBack) {
@@ -225,94 +201,84 @@ TEST(Passcodes, EveryOutcomeCopiesBack) {
     EXPECT_EQ(run.Fields("message", "text"), Texts({row.Question}));
     EXPECT_EQ(run.Fields("message", "title"), Texts({row.Question == 0 ? 0 : 10729}));
   }
-}
-
-TEST(Passcodes, DisablingTheLengthNeedsNoCorrection) {
+  // Disabling the length needs no correction.
   const auto run = Account{.Codes = {"11"}, .InTrouble = {"11"}, .More = {"bThroughComm=1"}}.Play(
       "answer 1\nclick optPlZeroSsave\ndump\nclick optSave\ndump\nclick optPlZeroSsave\nclick cmdOK");
+  for (const std::size_t dump : {0, 1}) EXPECT_EQ(run.Control("cmdOK", dump).at("enabled"), dump == 0);
   EXPECT_EQ(run.Control("optPlZeroSsave").at("caption"), Text(10731));
-  EXPECT_EQ(run.Control("cmdOK", 0).at("enabled"), true);
-  EXPECT_EQ(run.Control("cmdOK", 1).at("enabled"), false);
   EXPECT_EQ(run.Argument("bChangedStatus"), Integer(2));
 }
 
 TEST(Passcodes, AnyRecordAboveTheOperatorHidesAllButCancel) {
-  const struct {
-    Strings Levels;
-    bool Visible;
-  } cases[] = {{{"AuthorityLevel=2,2", "Any=2,2"}, true},
-               {{"AuthorityLevel=2,2", "Any=3,2"}, false},
-               {{"AuthorityLevel=2,2", "Any=2,3"}, false}};
-  for (const auto& row : cases) {
-    const auto run = Account{.Codes = {}, .Options = {.Levels = row.Levels}}.Play("dump");
+  for (const auto& [any, visible] : {std::pair{"Any=2,2", true}, {"Any=3,2", false}, {"Any=2,3", false}}) {
+    const auto run = Account{.Codes = {}, .Options = {.Levels = {"AuthorityLevel=2,2", any}}}.Play("dump");
     for (const auto* name :
          {"cmdOK", "fa", "lstExisting", "lstMatch", "lstUnusable", "lblCaption", "optSave", "optPlZeroSsave"}) {
-      EXPECT_EQ(run.Control(name).at("visible"), row.Visible) << name;
+      EXPECT_EQ(run.Control(name).at("visible"), visible) << name;
       EXPECT_EQ(run.Control(name).at("enabled"), true) << name;
     }
     EXPECT_EQ(run.Control("cmdCancel").at("visible"), true);
   }
-  EXPECT_EQ((Account{.Codes = {}, .More = {"SecurityLevels=empty"}}.Play("").Result), 0);
-  EXPECT_EQ((Account{.Codes = {}, .More = {"SecurityLevels=5"}}.Play("").Result), failures::ObjectRequired);
 }
 
 TEST(Passcodes, FailureBeforeTheShowTouchesNothing) {
-  const auto fails = [](const Account& account, const Value& result, const Value& present) {
-    const auto run = account.Play("");
-    EXPECT_TRUE(run.Events("show").empty());
-    EXPECT_EQ(run.Argument("vresult"), result);
-    EXPECT_EQ(run.Argument("vpresent"), present);
-    EXPECT_EQ(run.Argument("bChangedStatus"), Integer(0));
-    return run.Result;
+  EXPECT_EQ((Account{.Codes = {}, .More = {"SecurityLevels=empty"}}.Play("").Result), 0);
+  const std::pair<Account, int> cases[] = {
+      {{.Codes = {}, .Type = ""}, failures::TypeMismatch},
+      {{.Codes = {}, .Type = "40000"}, failures::Overflow},
+      {{.Codes = {}, .Highest = 250}, failures::SubscriptOutOfRange},
+      {{.Codes = {}, .Highest = 32766}, failures::Overflow},
+      {{.Codes = {}, .More = {"SecurityLevels=5"}}, failures::ObjectRequired},
   };
-  const auto none = Users({});
-  EXPECT_EQ(fails({.Codes = {}, .Type = ""}, none, none), failures::TypeMismatch);
-  EXPECT_EQ(fails({.Codes = {}, .Type = "40000"}, none, none), failures::Overflow);
-  EXPECT_EQ(fails({.Codes = {}, .Highest = 250}, none, none), failures::SubscriptOutOfRange);
-  EXPECT_EQ(fails({.Codes = {}, .Highest = 32766}, none, none), failures::Overflow);
+  for (const auto& [account, failure] : cases) {
+    const auto run = account.Play("");
+    EXPECT_EQ(run.Result, failure);
+    EXPECT_TRUE(run.Events("show").empty());
+    EXPECT_EQ(run.Argument("vresult"), Users({}));
+    EXPECT_EQ(run.Argument("vpresent"), Users({}));
+    EXPECT_EQ(run.Argument("bChangedStatus"), Integer(0));
+  }
   for (const std::string array : {"5", "[\"1\",\"2\"]", "empty"}) {
     const auto run = Play("clspasscodeLen",
                           {"vresult=" + array, "vpresent=[\"\"*250]", "vPasscodeLength=4", "iTotalNoOfUsers=3"}, "");
     EXPECT_EQ(run.Result, array[0] == '[' ? failures::SubscriptOutOfRange : failures::TypeMismatch) << array;
-    EXPECT_TRUE(run.Events("show").empty());
   }
 }
 
 class PasscodeFaults : public BrokenCatalogueTest {
  protected:
-  std::int32_t Display() {
+  std::int32_t Display(const std::function<void(shown::Dialog&, shown::Grid&)>& operate) {
+    Host->Operate = [&](shown::Dialog& dialog) { operate(dialog, dynamic_cast<shown::Grid&>(*dialog.Find("fa"))); };
+    Value codes = Users({"12", "123x"});
+    Value inTrouble = Users({"12"});
     std::int16_t status = 0;
-    return clspasscodeLen().Display(Codes, InTrouble, status, 4, 2);
+    return clspasscodeLen().Display(codes, inTrouble, status, 4, 2);
   }
-  Value Codes = Users({"12", "123x"});
-  Value InTrouble = Users({"12"});
 };
 
 TEST_F(PasscodeFaults, FailureInANotificationIsShownAndTheEditEnds) {
   Host->Answers = {answers::Ok};
-  Host->Operate = [this](shown::Dialog& dialog) {
-    auto& fa = dynamic_cast<shown::Grid&>(*dialog.Find("fa"));
+  const auto operate = [this](shown::Dialog& dialog, shown::Grid& fa) {
     FailsFor = 10716;
-    fa.MakeCurrent(1, 1), fa.DoubleClick(), dialog.PressKey(Key::Typing(U'1')),
-        dialog.PressKey(Key::Named(keys::Enter));
+    fa.MakeCurrent(1, 1), fa.DoubleClick();
+    dialog.PressKey(Key::Typing(U'1')), dialog.PressKey(Key::Named(keys::Enter));
     EXPECT_FALSE(dialog.Find("Timer1")->Enabled());
     FailsFor = 0;
     fa.DoubleClick();
     EXPECT_TRUE(fa.Editing());
   };
-  EXPECT_EQ(Display(), 0);
+  EXPECT_EQ(Display(operate), 0);
   EXPECT_EQ(Host->Happened, (Log{"show frmVerifyPasscodes", "message Object not set after edit "}));
 }
 
 TEST_F(PasscodeFaults, PasscodeThatDoesNotEndInADigitIsReportedAndConflictsWithNone) {
   ASSERT_EQ(InitApplicationVariables(), 0);
-  Host->Operate = [](shown::Dialog& dialog) {
-    auto& fa = dynamic_cast<shown::Grid&>(*dialog.Find("fa"));
+  const auto operate = [](shown::Dialog& dialog, shown::Grid& fa) {
     fa.MakeCurrent(1, 1), fa.DoubleClick(), fa.SetEditorCaret(0, 2), fa.PasteIntoEditor("1239");
     dialog.PressKey(Key::Named(keys::Enter));
     EXPECT_TRUE(dialog.Find("cmdOK")->Enabled());
   };
-  EXPECT_EQ(Display(), 0);
+  EXPECT_EQ(Display(operate), 0);
   EXPECT_EQ(Faults, Log{"frmVerifyPasscodes CalculateDuressPasscode() 13"});
 }
 

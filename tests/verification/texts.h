@@ -7,6 +7,8 @@
 
 namespace orlin::testing {
 
+using Strings = std::vector<std::string>;
+
 /// What `DialogRun::Fields` gives for messages or titles with these texts; 0 stands for none.
 inline std::vector<Json> Texts(const std::vector<int>& numbers) {
   std::vector<Json> texts;

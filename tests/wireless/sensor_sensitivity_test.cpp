@@ -1,67 +1,43 @@
-#include "catalogue/text_catalogue.h"
-#include "support/frame_fixture.h"
+#include "support/broken_catalogue.h"
+#include "support/dialog_test.h"
 #include "wireless/frmWirelessSensorSensitivity.h"
 
 namespace orlin::testing {
 namespace {
 
 /// The dialog that no public class opens, through its own `Display`.
-class SensorSensitivityTest : public FrameTest {
+class SensorSensitivityTest : public BrokenCatalogueTest {
  protected:
-  SensorSensitivityTest() {
-    Platform platform;
-    platform.Host = Host;
-    platform.Components["LocalText.clsLocalText"] = [] { return std::make_shared<TextCatalogue>(); };
-    UsePlatform(std::move(platform));
-  }
-
   std::int32_t Display(int option, Value& value, const SecurityLevels& levels = {}) {
     return frmWirelessSensorSensitivity().Display(static_cast<std::int16_t>(option), value,
                                                   std::make_shared<SecurityLevels>(levels));
   }
-  static void PickAndConfirm(shown::Dialog& dialog, const char* list, int row) {
-    auto& box = dynamic_cast<shown::ComboBox&>(*dialog.Find(list));
-    if (row >= 0) {
-      EXPECT_FALSE(box.PickRow(row));
-    }
-    dialog.Find("cmdOK")->Press();
-  }
 };
 
-TEST_F(SensorSensitivityTest, TwoLevelsCarryZeroAndFour) {
+TEST_F(SensorSensitivityTest, EachKindUsesItsList) {
   const struct {
-    int Raw;
-    int Row;  // picked; -1: none
+    int Kind;
+    Value Raw;
+    int Picked;  // -1: nothing
     int After;
-  } cases[] = {{0, -1, 0}, {4, -1, 4}, {0, 1, 4}, {4, 0, 0}};
-  for (const auto& one : cases) {
-    Host->Operate = [&](auto& dialog) {
-      EXPECT_FALSE(dialog.Find("cmbType2")->Enabled());
-      PickAndConfirm(dialog, "cmbType1", one.Row);
+  } cases[] = {
+      {1, Integer(0), -1, 0}, {1, Integer(4), -1, 4}, {1, Integer(0), 1, 4}, {1, Integer(4), 0, 0}, {2, "5", 13, 13}};
+  for (auto [kind, value, picked, after] : cases) {
+    Host->Operate = [&, row = picked, first = kind == 1](auto& dialog) {
+      auto& list = dynamic_cast<shown::ComboBox&>(*dialog.Find(first ? "cmbType1" : "cmbType2"));
+      EXPECT_EQ(list.ListCount(), first ? 2 : 14);
+      EXPECT_EQ(list.List(first ? 0 : 13) == Text(1915), !first);
+      EXPECT_FALSE(dialog.Find(first ? "cmbType2" : "cmbType1")->Enabled());
+      EXPECT_FALSE(row >= 0 && list.PickRow(row));
+      dialog.Find("cmdOK")->Press();
     };
-    Value value(static_cast<std::int16_t>(one.Raw));
-    EXPECT_EQ(Display(1, value), 0);
-    EXPECT_EQ(value, Value(static_cast<std::int16_t>(one.After)));
+    EXPECT_EQ(Display(kind, value), 0);
+    EXPECT_EQ(value, Integer(after));
   }
-  for (const int none : {1, 2, 5}) {
-    Value value(static_cast<std::int16_t>(none));
-    EXPECT_EQ(Display(1, value), failures::InvalidPropertyValue);
+  for (const auto& [kind, none] : {std::pair{1, 1}, {1, 2}, {1, 5}, {2, 14}}) {
+    auto value = Integer(none);
+    EXPECT_EQ(Display(kind, value), failures::InvalidPropertyValue) << kind << " " << none;
   }
-}
-
-TEST_F(SensorSensitivityTest, OtherKindsUseThePositionsOfTheSecondList) {
-  Host->Operate = [&](auto& dialog) {
-    EXPECT_FALSE(dialog.Find("cmbType1")->Enabled());
-    auto& list = dynamic_cast<shown::ComboBox&>(*dialog.Find("cmbType2"));
-    EXPECT_EQ(list.ListCount(), 14);
-    EXPECT_EQ(list.List(13), TextCatalogue().GetLocalTextBASE(1915));
-    PickAndConfirm(dialog, "cmbType2", 13);
-  };
-  Value value("5");
-  EXPECT_EQ(Display(2, value), 0);
-  EXPECT_EQ(value, Value(std::int16_t{13}));
-  Value beyond(std::int16_t{14});
-  EXPECT_EQ(Display(2, beyond), failures::InvalidPropertyValue);
 }
 
 TEST_F(SensorSensitivityTest, EveryRecordOfRightsHidesOrDisablesTheLists) {

@@ -9,6 +9,8 @@
 
 namespace orlin::testing {
 
+using Words = std::vector<std::string>;
+
 /// The captions of labels and the rows of lists are these texts.
 inline void ExpectTexts(const DialogRun& run,
                         const std::vector<std::pair<std::string, std::vector<std::int16_t>>>& controls) {
@@ -23,16 +25,15 @@ inline void ExpectTexts(const DialogRun& run,
 /// The one message of a run.
 inline void ExpectMessage(const DialogRun& run, std::int16_t text, std::int16_t title, int flags) {
   const auto message = run.Events("message").at(0);
-  EXPECT_EQ(message.at("text"), Text(text));
-  EXPECT_EQ(message.at("title"), Text(title));
-  EXPECT_EQ(message.at("flags"), flags);
+  EXPECT_EQ((Json{message.at("text"), message.at("title"), message.at("flags")}),
+            (Json{Text(text), Text(title), flags}));
 }
 
 /// The call of a zone editor, without its script.
 struct Call {
   std::string Class;
-  std::vector<std::string> Arguments;
-  std::vector<std::string> Levels = {};
+  Words Arguments;
+  Words Levels = {};
 
   [[nodiscard]] DialogRun Play(const std::string& script) const {
     return testing::Play(Class, Arguments, script, {.Levels = Levels});
@@ -51,7 +52,7 @@ inline void ExpectUntouched(const Call& call, const DialogRun& run) {
 }
 
 /// Ends of the show other than OK give 1 and change nothing.
-inline void ExpectOnlyOkWrites(const Call& call, const std::string& changes, const std::vector<std::string>& ends) {
+inline void ExpectOnlyOkWrites(const Call& call, const std::string& changes, const Words& ends) {
   for (const auto& end : ends) {
     const auto run = call.Play(changes + "\n" + end);
     EXPECT_EQ(run.Result, 1) << end;
