@@ -8,6 +8,17 @@ namespace {
 
 using BirchFaults = BrokenCatalogueTest;
 
+/// A fault log that fails when it is first used: so a text that is missing fails the search that asked for it.
+struct FailingOnce : FaultLog {
+  using FaultLog::FaultLog;
+  void LogError() override {
+    if (std::exchange(Fails, false)) throw Failure(75);
+    FaultLog::LogError();
+  }
+  void Clear() override { ADD_FAILURE() << "cleared"; }
+  bool Fails = true;
+};
+
 std::int32_t DisplayDescription() {
   Value descriptions = Array({"", Text(1724)});
   Value function = Integer(1);
@@ -20,10 +31,16 @@ TEST_F(BirchFaults, FailureOfTheSearchForATypeIsLoggedAndFindsNone) {
   EXPECT_EQ(DisplayDescription(), failures::NoObject) << "there is no fault object";
   EXPECT_TRUE(Host->Happened.empty());
 
-  Services().FaultObject = Create<FaultObjectComponent>("FaultObject.clsFaultObject");
+  FaultLogOptions options;
+  options.Host = Host;
+  options.File = std::make_shared<FaultFile>(Folder.Path() / "faults");
+  options.OnLogged = [&](const LoggedFault& fault) {
+    Faults = {fault.Module, fault.Procedure, std::to_string(fault.Number), fault.AdditionalText};
+  };
+  Services().FaultObject = std::make_shared<FailingOnce>(options);
   Host->Operate = [](shown::Dialog& dialog) { EXPECT_FALSE(dialog.Find("ChkAlarmVerified")->Enabled()); };
   EXPECT_EQ(DisplayDescription(), 1);
-  EXPECT_EQ(Faults, Log{"frmZoneFuncDescBirch GetFunctionDescKeyFob 75"});
+  EXPECT_EQ(Faults, (Log{"frmZoneFuncDescBirch", "GetFunctionDescKeyFob", "75", ""}));
 }
 
 }  // namespace
