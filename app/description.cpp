@@ -38,6 +38,12 @@ bool IsSeparator(const std::string& text) {
   });
 }
 
+/// A raw value such as "1390C"; a word of any language has other letters.
+bool IsCode(const std::string& text) {
+  return std::none_of(text.begin(), text.end(),
+                      [](unsigned char c) { return c <= ' ' || c >= 0x7F || (c >= 'a' && c <= 'z'); });
+}
+
 std::string FrameOf(const Control& control) {
   for (const auto* frame = control.Parent(); frame != nullptr; frame = frame->Parent()) {
     if (auto caption = Spoken(frame->Caption()); !caption.empty()) return caption;
@@ -165,7 +171,7 @@ class Teller {
         named != nullptr && (!named->IsShown() || (caption != labels_.end() && caption->second == &label));
     if (text.empty() || isCaption || explained_.contains(&label)) return;
     // "Code of zone 5", and further on "4000"
-    if (text.find(' ') == std::string::npos) {
+    if (IsCode(text)) {
       for (auto& heading : told_) {
         if (heading.Kind != ControlKind::Label || !heading.Caption.empty() || heading.Joins != Joins::No) continue;
         auto& shown = std::get<told::Text>(heading.Shows).Shown;

@@ -61,6 +61,12 @@ std::map<const Control*, Label*> LabelsOf(const std::vector<Control*>& all) {
   return labels;
 }
 
+/// A raw value such as "1390C"; a word of any language has other letters.
+bool IsCode(const QString& text) {
+  return !text.isEmpty() &&
+         std::all_of(text.begin(), text.end(), [](QChar c) { return c > u' ' && c.unicode() < 0x7F && !c.isLower(); });
+}
+
 /// Reads the controls of one container in order.
 class Planner {
  public:
@@ -152,7 +158,7 @@ class Planner {
     if (namesField) return;
     if (label.BackColor() && label.Caption().empty()) return PlaceColourKey(label);
     // "Code of zone 5:" "4000"
-    const bool isValue = !Plain(label).contains(u' ') && !label.Caption().empty();
+    const bool isValue = IsCode(Plain(label));
     const auto heading = std::find_if(plan_.Rows.begin(), plan_.Rows.end(), [](const auto& row) {
       return row.What == FormRow::Kind::Text && row.Lines.empty();
     });
