@@ -11,8 +11,7 @@ namespace {
 
 bool SameColumn(const std::string& a, const std::string& b) { return strcasecmp(a.c_str(), b.c_str()) == 0; }
 
-const std::pair<std::string, Value>* ColumnNamed(const std::vector<std::pair<std::string, Value>>& columns,
-                                                 const std::string& name) {
+const Connection::Row::value_type* ColumnNamed(const Connection::Row& columns, const std::string& name) {
   const auto found =
       std::find_if(columns.begin(), columns.end(), [&](const auto& column) { return SameColumn(column.first, name); });
   return found == columns.end() ? nullptr : &*found;
@@ -145,7 +144,7 @@ void StoredRows::Store(Write write) {
   });
 }
 
-void StoredRows::Insert(const Columns& columns) {
+void StoredRows::Insert(const Connection::Row& columns) {
   std::string names;
   std::string places;
   std::vector<Value> values;
@@ -157,7 +156,7 @@ void StoredRows::Insert(const Columns& columns) {
   connection_->Execute("INSERT INTO " + table_ + " (" + names + ") VALUES (" + places + ")", values);
 }
 
-void StoredRows::Change(const Columns& columns) {
+void StoredRows::Change(const Connection::Row& columns) {
   std::string settings;
   std::vector<Value> values;
   for (const auto& [name, value] : columns) {

@@ -36,7 +36,6 @@ class StoredRows : public Recordset {
     std::string Statement;
     std::vector<Value> Values;
   };
-  using Columns = std::vector<std::pair<std::string, Value>>;
 
   void LookUp();
   void Start();
@@ -46,8 +45,8 @@ class StoredRows : public Recordset {
   /// Writes, and commits; again from the lookup where another program came between.
   template <class Write>
   void Store(Write write);
-  void Insert(const Columns& columns);
-  void Change(const Columns& columns);
+  void Insert(const Connection::Row& columns);
+  void Change(const Connection::Row& columns);
 
   std::shared_ptr<Connection> connection_;
   Query query_;
@@ -56,7 +55,7 @@ class StoredRows : public Recordset {
   bool writes_;
   bool inTransaction_ = false;
   std::optional<Connection::Row> row_;
-  std::optional<Columns> begun_;  ///< the new values of a row that was begun
+  std::optional<Connection::Row> begun_;  ///< the new values of a row that was begun
   std::map<std::string, std::unique_ptr<RecordsetField>> fields_;
 };
 

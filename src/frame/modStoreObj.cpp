@@ -38,11 +38,14 @@ std::string PathMessage(std::int16_t id, const std::string& path) {
 
 bool OpensOnTrial(const std::string& path) {
   DatabasePtr database;
-  SkipFailure([&] {
-    const auto& engine = InstalledPlatform().Engine;
-    if (engine != nullptr) database = engine->OpenDatabase(path, false, true, "");
-  });
-  if (database != nullptr) database->Close();
+  SkipFailure(
+      [&] {
+        const auto& engine = InstalledPlatform().Engine;
+        if (engine != nullptr) database = engine->OpenDatabase(path, false, true, "");
+      },
+      [&] {
+        if (database != nullptr) database->Close();
+      });
   return database != nullptr;
 }
 

@@ -1,7 +1,5 @@
 #include "notes/frmPanelNotes.h"
 
-#include <optional>
-
 #include "frame/conversions.h"
 #include "frame/display_protocol.h"
 #include "frame/modGeneral.h"

@@ -31,6 +31,16 @@ namespace {
 
 using Numbers = std::set<std::int16_t>;
 
+/// The variables of a text, "%ZONE%" and the like.
+std::multiset<std::string> Markers(std::string_view text) {
+  std::multiset<std::string> markers;
+  for (auto at = text.find('%'); at != std::string_view::npos; at = text.find('%', at + 1)) {
+    const auto end = text.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ_", at + 1);
+    if (end != std::string_view::npos && end > at + 1 && text[end] == '%') markers.emplace(text.substr(at, end - at));
+  }
+  return markers;
+}
+
 /// A catalogue that notes what it is asked for.
 class NotingCatalogue : public TextCatalogue {
  public:
@@ -44,13 +54,15 @@ class NotingCatalogue : public TextCatalogue {
   Numbers& asked_;
 };
 
-/// Goes through all rows and options of a dialog, then confirms, and looks at the access keys at each step.
+/// Goes through all rows and options of a dialog, then confirms; looks at each step for access keys that clash and for
+/// variables that the dialog did not fill in.
 class Explorer : public DialogHost {
  public:
   explicit Explorer(std::string_view language) : language_(language) {}
 
   [[nodiscard]] SizeInTwips Screen() const override { return {}; }
   int ShowMessage(const Message& message) override {
+    ExpectFilled(message.Text);
     return message.Flags == Message::YesNo ? answers::Yes : answers::Ok;
   }
   void Beep() override {}
@@ -82,8 +94,13 @@ class Explorer : public DialogHost {
   }
 
   void Look(const shown::Dialog& dialog) {
+    ExpectFilled(dialog.Caption());
     std::map<char32_t, const shown::Control*> owners;
     for (const auto* control : dialog.Controls()) {
+      ExpectFilled(control->Caption());
+      if (const auto* rows = dynamic_cast<const shown::RowList*>(control)) {
+        for (int row = 0; row < rows->ListCount(); ++row) ExpectFilled(rows->List(row));
+      }
       const auto key = AccessKey(control->Caption());
       if (key == 0 || !LeadsSomewhere(*control)) continue;
       const auto [owner, isFirst] = owners.emplace(key, control);
@@ -91,6 +108,8 @@ class Explorer : public DialogHost {
                            << control->Caption();
     }
   }
+
+  void ExpectFilled(const std::string& text) const { EXPECT_TRUE(Markers(text).empty()) << language_ << ' ' << text; }
 
   static bool LeadsSomewhere(const shown::Control& control) {
     if (!control.IsShown()) return false;
@@ -156,15 +175,6 @@ Numbers Explored(const Language& language) {
     EXPECT_LE(call.Class->Display(arguments), 2) << call.Class->Name();
   }
   return asked;
-}
-
-std::multiset<std::string> Markers(std::string_view text) {
-  std::multiset<std::string> markers;
-  for (auto at = text.find('%'); at != std::string_view::npos; at = text.find('%', at + 1)) {
-    const auto end = text.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ_", at + 1);
-    if (end != std::string_view::npos && end > at + 1 && text[end] == '%') markers.emplace(text.substr(at, end - at));
-  }
-  return markers;
 }
 
 /// The character that a row of the Fir zones stands for.
