@@ -7,14 +7,13 @@
 
 #include "OrlinCustomDialogs/keys.h"
 
+#include "forms/label_text.h"
+
 namespace orlin {
 namespace {
 
 using shown::Control;
 using shown::Label;
-
-// Longer texts are explanations, not units such as "Min".
-constexpr std::size_t kLongestUnit = 10;
 
 std::string Spoken(const std::string& caption) {
   auto spoken = PlainCaption(caption);
@@ -22,26 +21,9 @@ std::string Spoken(const std::string& caption) {
   return spoken;
 }
 
-bool IsMark(const Control& control) {
-  return control.Kind() == ControlKind::CheckBox || control.Kind() == ControlKind::OptionButton;
-}
-
 bool IsSingleLine(const Control& control) {
   const auto* box = dynamic_cast<const shown::TextBox*>(&control);
   return box != nullptr && !box->MultiLine();
-}
-
-/// "," or ":" between two boxes.
-bool IsSeparator(const std::string& text) {
-  return !text.empty() && std::none_of(text.begin(), text.end(), [](unsigned char c) {
-    return c >= 0x80 || (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-  });
-}
-
-/// A raw value such as "1390C"; a word of any language has other letters.
-bool IsCode(const std::string& text) {
-  return std::none_of(text.begin(), text.end(),
-                      [](unsigned char c) { return c <= ' ' || c >= 0x7F || (c >= 'a' && c <= 'z'); });
 }
 
 std::string FrameOf(const Control& control) {
@@ -97,20 +79,19 @@ class Teller {
       const auto* before = std::exchange(lastIn[control->Parent()], control);
       const auto* label = dynamic_cast<const Label*>(control);
       if (before == nullptr) continue;
-      if (label != nullptr && IsUnit(*label, *before)) {
-        joined_[label] = IsSeparator(PlainCaption(label->Caption())) ? Joins::WithoutBlank : Joins::WithBlank;
+      if (label != nullptr && BelongsTo(*label, *before)) {
+        joined_[label] = IsSeparator(*label) ? Joins::WithoutBlank : Joins::WithBlank;
       } else if (joined_.contains(before) && IsSingleLine(*control)) {
         joined_[control] = joined_[before];
       }
     }
   }
 
-  [[nodiscard]] bool IsUnit(const Label& label, const Control& before) const {
+  [[nodiscard]] bool BelongsTo(const Label& label, const Control& before) const {
     if (AccessKey(label.Caption()) != 0) return false;
     if (before.Kind() != ControlKind::UpDown && !IsSingleLine(before) && !joined_.contains(&before)) return false;
-    const auto text = PlainCaption(label.Caption());
     const bool tellsWhatTheBoxMeans = IsSingleLine(before) && label.Names() == nullptr;
-    return tellsWhatTheBoxMeans || IsSeparator(text) || (text.size() <= kLongestUnit && !text.ends_with(':'));
+    return tellsWhatTheBoxMeans || IsSeparator(label) || IsUnit(label);
   }
 
   /// Several labels may stand before a control: the last one names it, and the others are texts.
@@ -171,7 +152,7 @@ class Teller {
         named != nullptr && (!named->IsShown() || (caption != labels_.end() && caption->second == &label));
     if (text.empty() || isCaption || explained_.contains(&label)) return;
     // "Code of zone 5", and further on "4000"
-    if (IsCode(text)) {
+    if (IsCode(label)) {
       for (auto& heading : told_) {
         if (heading.Kind != ControlKind::Label || !heading.Caption.empty() || heading.Joins != Joins::No) continue;
         auto& shown = std::get<told::Text>(heading.Shows).Shown;

@@ -5,20 +5,13 @@
 
 #include "OrlinCustomDialogs/keys.h"
 
-#include "qt/texts.h"
+#include "forms/label_text.h"
 
 namespace orlin {
 namespace {
 
 using shown::Control;
 using shown::Label;
-
-// Longer texts are explanations, not units such as "Min".
-constexpr int kLongestUnit = 10;
-
-bool IsMark(const Control& control) {
-  return control.Kind() == ControlKind::CheckBox || control.Kind() == ControlKind::OptionButton;
-}
 
 bool IsTall(const Control& control) {
   if (control.Kind() == ControlKind::ListBox || control.Kind() == ControlKind::Grid) return true;
@@ -31,13 +24,6 @@ bool IsField(const Control& control) {
 }
 
 bool WantsLabel(const Control& control) { return IsField(control) || (IsMark(control) && control.Caption().empty()); }
-
-QString Plain(const Control& label) { return Shown(PlainCaption(label.Caption())); }
-
-bool IsSeparator(const Label& label) {
-  const auto text = Plain(label);
-  return !text.isEmpty() && std::none_of(text.begin(), text.end(), [](QChar c) { return c.isLetterOrNumber(); });
-}
 
 /// The first control behind a label that takes the focus, and has the label's index where it has one: a label stays
 /// where it is, whichever of the controls behind it is visible.
@@ -59,12 +45,6 @@ std::map<const Control*, Label*> LabelsOf(const std::vector<Control*>& all) {
     if (named != nullptr && WantsLabel(*named)) labels[named] = label;
   }
   return labels;
-}
-
-/// A raw value such as "1390C"; a word of any language has other letters.
-bool IsCode(const QString& text) {
-  return !text.isEmpty() &&
-         std::all_of(text.begin(), text.end(), [](QChar c) { return c > u' ' && c.unicode() < 0x7F && !c.isLower(); });
 }
 
 /// Reads the controls of one container in order.
@@ -90,9 +70,8 @@ class Planner {
       const bool behindBox = kind == ControlKind::UpDown ||
                              (kind == ControlKind::TextBox && !IsTall(*inside_[i - 1])) ||
                              std::find(units_.begin(), units_.end(), inside_[i - 1]) != units_.end();
-      const auto text = Plain(*label);
       const bool isResult = kind == ControlKind::TextBox && label->Names() == nullptr;
-      const bool isUnit = isResult || IsSeparator(*label) || (text.size() <= kLongestUnit && !text.endsWith(u':'));
+      const bool isUnit = isResult || IsSeparator(*label) || IsUnit(*label);
       if (!behindBox || !isUnit) continue;
       units_.push_back(label);
       std::erase_if(labels_, [&](const auto& entry) { return entry.second == label; });
@@ -158,7 +137,7 @@ class Planner {
     if (namesField) return;
     if (label.BackColor() && label.Caption().empty()) return PlaceColourKey(label);
     // "Code of zone 5:" "4000"
-    const bool isValue = IsCode(Plain(label));
+    const bool isValue = IsCode(label);
     const auto heading = std::find_if(plan_.Rows.begin(), plan_.Rows.end(), [](const auto& row) {
       return row.What == FormRow::Kind::Text && row.Lines.empty();
     });
