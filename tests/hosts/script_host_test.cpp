@@ -65,26 +65,6 @@ struct Everything {
   }
 };
 
-/// Looks at the dialog as a host leaves it.
-class WatchedHost final : public DialogHost {
- public:
-  explicit WatchedHost(std::shared_ptr<ScriptHost> host) : host_(std::move(host)) {}
-
-  [[nodiscard]] SizeInTwips Screen() const override { return host_->Screen(); }
-  void ShowModal(shown::Dialog& dialog) override {
-    host_->ShowModal(dialog);
-    EXPECT_FALSE(dialog.IsShown());
-  }
-  int ShowMessage(const Message& message) override { return host_->ShowMessage(message); }
-  void Beep() override { host_->Beep(); }
-  void HandlerFailed(const shown::Dialog& dialog, std::string_view handler, const Failure& failure) override {
-    host_->HandlerFailed(dialog, handler, failure);
-  }
-
- private:
-  std::shared_ptr<ScriptHost> host_;
-};
-
 /// Plays scripts on a dialog of every kind, without a public class around it.
 class ScriptHostTest : public ::testing::Test {
  protected:
@@ -96,11 +76,12 @@ class ScriptHostTest : public ::testing::Test {
     orlin::Trace trace(out);
     const auto host = std::make_shared<ScriptHost>(ParseScript(script), trace, strict);
     Platform platform;
-    platform.Host = std::make_shared<WatchedHost>(host);
+    platform.Host = host;
     UsePlatform(std::move(platform));
     Everything dialog;
     try {
       dialog.Form.ShowModal();
+      EXPECT_FALSE(dialog.Form.IsShown());
       host->Finish();
       Exit = dialog.Form.ExitCode();
     } catch (const StrictRefusal&) {
