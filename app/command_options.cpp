@@ -50,11 +50,15 @@ void AddCall(CLI::App& command, std::string& className, std::vector<std::string>
       ->group(kRights);
 }
 
+void AddJson(CLI::App& command, bool& json, const std::string& each) {
+  command.add_flag("--json", json, "One JSON object on a line for each " + each)->group(kOutput);
+}
+
 }  // namespace
 
 void AddList(CLI::App& command, ListOptions& options) {
   AddOption(command, "Positionals", "CLASS", "", options.Class, "This class alone, with all about its parameters");
-  command.add_flag("--json", options.Json, "One JSON object on a line for each class")->group(kOutput);
+  AddJson(command, options.Json, "class");
   command.footer(
       "Examples:\n"
       "  orlin-host list\n"
@@ -66,7 +70,7 @@ void AddDescribe(CLI::App& command, DescribeOptions& options) {
   AddCall(command, options.Class, options.Arguments, options.Levels);
   AddOption(command, "Options", "--account", "FILE", options.Account,
             "Every parameter of this account in place of one class");
-  command.add_flag("--json", options.Json, "One JSON object on a line for each parameter")->group(kOutput);
+  AddJson(command, options.Json, "parameter");
   AddPlatform(command, options.Platform);
   command.footer(
       "Opens and changes nothing. The status is 3 where a value cannot be shown.\n\n"
