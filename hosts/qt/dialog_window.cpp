@@ -273,6 +273,9 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) { TakeKey(nullptr, *event); }
 
 void DialogWindow::TakeKey(ControlView* view, const QKeyEvent& key) {
   if (view != nullptr && view->TakeWindowKey(key)) return;
+  constexpr qint64 typingPause = 1000;
+  if (timers_ == Timers::Run && sinceKey_.isValid() && sinceKey_.elapsed() > typingPause) dialog_.PauseTyping();
+  sinceKey_.start();
   for (const auto& pressed : KeysOf(key)) Press(pressed, dialog_);
 }
 

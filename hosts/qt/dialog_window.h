@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <exception>
 #include <memory>
@@ -85,6 +86,7 @@ class DialogWindow final : public QDialog, public Desk {
   Refusal refusal_;
   std::exception_ptr thrown_;
   QEventLoop loop_;
+  QElapsedTimer sinceKey_;
 };
 
 }  // namespace orlin

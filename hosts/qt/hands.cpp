@@ -90,9 +90,7 @@ Refusal QtHands::Do(shown::Dialog& dialog, const actions::Type& action) {
   const auto* control = Reachable<shown::Control>(dialog, action.Control);
   if (control == nullptr || !control->TakesFocus()) return Directly(dialog, action);
   if (!Focus(*control)) return Done();
-  const auto* grid = dynamic_cast<const shown::Grid*>(control);
-  if (grid != nullptr && !grid->Editing()) return Directly(dialog, action);
-  Press(action.Text);
+  for (const auto& key : orlin::KeysOf(action.Text)) Press(key);
   return Done();
 }
 
@@ -163,7 +161,7 @@ Refusal QtHands::Do(shown::Dialog& dialog, const actions::EditCell& action) {
   const auto* grid = Reachable<shown::Grid>(dialog, cell.Grid);
   if (grid == nullptr || !grid->Editing()) return "the dialog does not let this cell be edited";
   SendKey(window_->KeyTarget(), {Qt::Key_A, Qt::ControlModifier, {}});
-  auto typed = KeysTyping(QString::fromStdU32String(action.Text));
+  auto typed = orlin::KeysOf(action.Text);
   if (typed.empty()) typed.push_back(Key::Named(keys::Backspace));
   typed.push_back(Key::Named(keys::Enter));
   for (const auto& key : typed) {
@@ -201,16 +199,6 @@ bool QtHands::Focus(const shown::Control& control) {
 }
 
 void QtHands::Press(const Key& key) { SendKey(window_->KeyTarget(), PressOf(key)); }
-
-void QtHands::Press(const std::u32string& text) {
-  for (const auto character : text) {
-    // Typed into a window, a line end is Enter and a tab is Tab.
-    for (const auto& key :
-         character == U'\t' ? std::vector{Key::Named(keys::Tab)} : KeysTyping(QString::fromUcs4(&character, 1))) {
-      Press(key);
-    }
-  }
-}
 
 void QtHands::PickFromDropDown(const shown::ComboBox& box, int row) {
   auto& list = dynamic_cast<QComboBox&>(*window_->ViewOf(box).Widget());

@@ -33,7 +33,6 @@ class QtHands final : public OperatorHands {
   [[nodiscard]] Refusal Directly(shown::Dialog& dialog, const Operation& action);
   [[nodiscard]] bool Focus(const shown::Control& control);
   void Press(const Key& key);
-  void Press(const std::u32string& text);
   void PickFromDropDown(const shown::ComboBox& box, int row);
   void PressRow(const shown::Control& list, int row);
   void PressCell(const shown::Grid& grid, int row, int col, QEvent::Type type);

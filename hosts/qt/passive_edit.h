@@ -10,6 +10,7 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QTextBoundaryFinder>
 #include <QTextDocument>
 #include <algorithm>
@@ -22,18 +23,18 @@
 namespace orlin {
 
 /// Where a key of the caret leads from a position, in UTF-16 units.
-[[nodiscard]] inline int Moved(const QPlainTextEdit& field, int from, QTextCursor::MoveOperation move, int times = 1) {
+[[nodiscard]] inline int Moved(const QPlainTextEdit& field, int from, QTextCursor::MoveOperation move) {
   auto cursor = field.textCursor();
   cursor.setPosition(from);
-  cursor.movePosition(move, QTextCursor::MoveAnchor, times);
+  cursor.movePosition(move);
   return cursor.position();
 }
-[[nodiscard]] inline int Moved(const QLineEdit& field, int from, QTextCursor::MoveOperation move, int times = 1) {
+[[nodiscard]] inline int Moved(const QLineEdit& field, int from, QTextCursor::MoveOperation move) {
   QTextDocument line;
   line.setPlainText(field.text());
   QTextCursor cursor(&line);
   cursor.setPosition(from);
-  cursor.movePosition(move, QTextCursor::MoveAnchor, times);
+  cursor.movePosition(move);
   return cursor.position();
 }
 
@@ -144,9 +145,11 @@ class PassiveEdit : public Field, public Composing {
     if (key.matches(QKeySequence::Cut)) return Cut(), true;
     if (key.matches(QKeySequence::Paste)) return Paste(), true;
     if (key.matches(QKeySequence::SelectAll)) return Actions.SetCaret(0, Length()), true;
-    if (kHasLines && (key.key() == Qt::Key_PageUp || key.key() == Qt::Key_PageDown)) {
-      TurnPage(key.key() == Qt::Key_PageUp ? QTextCursor::Up : QTextCursor::Down);
-      return false;
+    if constexpr (kHasLines) {
+      // The caret stays, as with any operator; what is seen moves.
+      auto* const bar = Field::verticalScrollBar();
+      if (key.key() == Qt::Key_PageUp) bar->triggerAction(QScrollBar::SliderPageStepSub);
+      if (key.key() == Qt::Key_PageDown) bar->triggerAction(QScrollBar::SliderPageStepAdd);
     }
     const bool marks = key.modifiers().testFlag(Qt::ShiftModifier);
     // The control knows the keys of the caret, one character or line at a time.
@@ -210,6 +213,12 @@ class PassiveEdit : public Field, public Composing {
   }
   // Keys come by the window.
   void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+  // A line of Qt marks itself where Tab, or the opening of its window, leads to it; here only the control marks.
+  void focusInEvent(QFocusEvent* event) override {
+    const bool marks = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    QFocusEvent plain(QEvent::FocusIn, marks ? Qt::OtherFocusReason : event->reason());
+    Field::focusInEvent(&plain);
+  }
 
  private:
   static constexpr bool kHasLines = std::is_base_of_v<QPlainTextEdit, Field>;
@@ -265,13 +274,6 @@ class PassiveEdit : public Field, public Composing {
       default:
         return QTextCursor::NoMove;
     }
-  }
-
-  // The control does not know how much of its text is seen at a time.
-  void TurnPage(QTextCursor::MoveOperation move) {
-    const int lines = std::max(Field::contentsRect().height() / Field::fontMetrics().lineSpacing() - 1, 1);
-    const int to = CharactersAt(Moved(*this, UnitsInField(Caret()), move, lines));
-    Mark(to, to);
   }
 
   [[nodiscard]] QString Marked() const {

@@ -9,8 +9,6 @@
 namespace orlin {
 namespace {
 
-constexpr const char* kNoEditor = "no cell is being edited";
-
 /// Uses the control of that name, which has to be of a kind.
 template <class Kind, class Use>
 Refusal With(const shown::Dialog& dialog, const std::string& name, std::string_view kind, Use use) {
@@ -31,19 +29,6 @@ Refusal WithGrid(const shown::Dialog& dialog, const std::string& name, Use use) 
   return With<shown::Grid>(dialog, name, "a grid", use);
 }
 
-std::vector<Key> KeysOf(std::u32string_view text) {
-  std::vector<Key> typed;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == U'\r' || text[i] == U'\n') {
-      typed.push_back(Key::Named(keys::Enter));
-      if (text.substr(i, 2) == U"\r\n") ++i;
-    } else {
-      typed.push_back(text[i] == U'\t' ? Key::Named(keys::Tab) : Key::Typing(text[i]));
-    }
-  }
-  return typed;
-}
-
 /// Presses keys while the dialog is shown, each wherever the focus is by then; tells the first refusal.
 Refusal Press(shown::Dialog& dialog, const std::vector<Key>& typed) {
   Refusal first;
@@ -56,6 +41,19 @@ Refusal Press(shown::Dialog& dialog, const std::vector<Key>& typed) {
 }
 
 }  // namespace
+
+std::vector<Key> KeysOf(std::u32string_view text) {
+  std::vector<Key> typed;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == U'\r' || text[i] == U'\n') {
+      typed.push_back(Key::Named(keys::Enter));
+      if (text.substr(i, 2) == U"\r\n") ++i;
+    } else {
+      typed.push_back(text[i] == U'\t' ? Key::Named(keys::Tab) : Key::Typing(text[i]));
+    }
+  }
+  return typed;
+}
 
 Refusal DirectHands::Do(shown::Dialog& dialog, const actions::Select& action) {
   return With<shown::RowList>(dialog, action.Control, "a list", [&](auto& list) -> Refusal {
@@ -73,8 +71,6 @@ Refusal DirectHands::Do(shown::Dialog& dialog, const actions::Click& action) {
 Refusal DirectHands::Do(shown::Dialog& dialog, const actions::Type& action) {
   return WithAny(dialog, action.Control, [&](auto& control) -> Refusal {
     if (auto refusal = control.Focus()) return refusal;
-    const auto* grid = dynamic_cast<shown::Grid*>(&control);
-    if (grid != nullptr && !grid->Editing()) return kNoEditor;
     return Press(dialog, KeysOf(action.Text));
   });
 }

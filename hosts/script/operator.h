@@ -6,6 +6,9 @@
 
 namespace orlin {
 
+/// The keys that type a text: a line end is one Enter, a tab is Tab.
+[[nodiscard]] std::vector<Key> KeysOf(std::u32string_view text);
+
 /// How an operator reaches the controls of a dialog that is shown: one operation for each action on them. What cannot
 /// be done is refused, in words for people, and has changed nothing but perhaps the focus.
 class OperatorHands {

@@ -46,6 +46,7 @@ void ScriptPlayer::Play(shown::Dialog& dialog) {
 }
 
 void ScriptPlayer::Perform(shown::Dialog& dialog, const Action& action) {
+  dialog.PauseTyping();
   const Cases cases{[&](const actions::Answer&) -> Refusal {
                       answers_.push_back(&action);
                       return {};

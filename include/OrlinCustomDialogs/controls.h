@@ -171,6 +171,10 @@ class Control {
   [[nodiscard]] virtual bool KeepsEscape() const { return false; }
   /// The focus is about to go elsewhere.
   virtual void Leave(By by);
+  /// Tab stops here, as far as the control itself decides that.
+  [[nodiscard]] virtual bool IsTabStop() const { return tabStop_; }
+  /// Tab has moved the focus here.
+  virtual void EnterByTab() {}
 
  private:
   ControlKind kind_;
@@ -248,6 +252,9 @@ class OptionButton : public Control {
   using Control::Control;
   void TakeKey(const Key& key) override;
 
+  /// The options of a container are one stop of Tab: the one that is on, else the first.
+  [[nodiscard]] bool IsTabStop() const override;
+
   void StartValue(bool value) noexcept { value_ = value; }
   void SetValue(bool value);
 
@@ -255,8 +262,10 @@ class OptionButton : public Control {
 
  private:
   void ClearOthers();
-  /// The next (previous) option of the container within reach, round its end.
-  [[nodiscard]] OptionButton* Neighbour(int step) const;
+  /// The options of the container within reach.
+  [[nodiscard]] std::vector<OptionButton*> Group() const;
+  /// Presses the next (previous) option of the group, round its end.
+  void PressNeighbour(int step);
 
   bool value_ = false;
 };
@@ -321,6 +330,8 @@ class TextControl : public Control {
 class TextBox : public TextControl {
  protected:
   using TextControl::TextControl;
+  /// Marks the text, unless it has lines.
+  void EnterByTab() override;
 };
 
 /// What list boxes and combo boxes have in common: rows, and one of them selected.
@@ -368,6 +379,8 @@ class RowList {
   [[nodiscard]] bool HasRow(int row) const noexcept { return row >= 0 && row < ListCount(); }
   /// Picks a row for Up, Down, Home, End, Page Up and Page Down; tells whether the key was one of them.
   bool PickByKey(const Key& key);
+  /// Picks the next row that begins with the characters typed so far.
+  void PickByTyping(char32_t character);
   void PutListIndex(int row) noexcept { listIndex_ = static_cast<std::int16_t>(row); }
   [[nodiscard]] virtual Refusal RefusePick() const { return {}; }
   /// Makes a row, which exists, or -1, the selected one, and fires what is due.
@@ -379,6 +392,8 @@ class RowList {
   std::vector<Row> rows_;
   std::int16_t listIndex_ = -1;
   std::int16_t newIndex_ = -1;
+  std::u32string typed_;          // in small letters
+  std::uint32_t typedSince_ = 0;  // the pause of the dialog before it
 };
 
 /// A drop-down list, or, with an edit field, a combo box.
@@ -532,7 +547,7 @@ class Grid : public Control {
 
   /// Makes a cell the current one. An edit of another cell ends first.
   Refusal MakeCurrent(int row, int col);
-  /// Double-click on the current cell; F2 on the keyboard.
+  /// Double-click on the current cell. On the keyboard F2, and every character, which then goes into the editor.
   Refusal DoubleClick();
   /// Puts the caret of the open editor, or marks text in it.
   Refusal SetEditorCaret(int start, int length);
@@ -623,10 +638,14 @@ class Dialog {
   /// within reach gets the focus, unless one has it.
   void Activate();
 
-  /// A key is pressed. In this order: Alt and a letter go to the control with that access key; Enter and Escape press
-  /// the default and the cancel button, unless the control with the focus keeps them; Tab moves the focus; every other
-  /// key is seen by the dialog, where it wants to, and then by the control that has the focus.
+  /// A key is pressed. In this order: Alt and a letter go to the control with that access key; Enter presses the button
+  /// that has the focus, else the default button, and Escape the cancel button, unless the control with the focus keeps
+  /// them; Tab moves the focus; every other key is seen by the dialog, where it wants to, and then by the control that
+  /// has the focus.
   Refusal PressKey(const Key& key);
+  /// The operator has typed nothing for a second: what he types now in a list does not go on with what he typed before.
+  /// A host without a clock tells it when a new action begins.
+  void PauseTyping() noexcept { ++typingPauses_; }
 
   /// The close box.
   void Close();
@@ -656,9 +675,11 @@ class Dialog {
  private:
   friend class Control;
   friend class Label;
+  friend class RowList;
   friend class orlin::Dialog;
   friend class orlin::AnyControl;
 
+  [[nodiscard]] static bool TakesTab(const Control* control);
   void MoveFocus(Control* to, By by);
   Refusal PressAccessKey(char32_t letter);
   void MoveFocusByTab(bool backwards);
@@ -680,6 +701,7 @@ class Dialog {
   Control* entered_ = nullptr;  // has had its GotFocus, and is due its LostFocus
   Button* defaultButton_ = nullptr;
   Button* cancelButton_ = nullptr;
+  std::uint32_t typingPauses_ = 0;
 };
 
 template <class... Arguments, class... Actual>

@@ -5,12 +5,6 @@
 namespace orlin {
 namespace {
 
-// Enough for the letters that the captions of western languages mark.
-char32_t SmallLetter(char32_t letter) {
-  const bool capital = (letter >= U'A' && letter <= U'Z') || (letter >= 0xC0 && letter <= 0xDE && letter != 0xD7);
-  return capital ? letter + 0x20 : letter;
-}
-
 int CodeOf(char32_t character) {
   const auto small = SmallLetter(character);
   if (small >= U'a' && small <= U'z') return static_cast<int>(small - U'a' + U'A');

@@ -41,6 +41,16 @@ std::string_view KindName(ControlKind kind) noexcept {
 }
 
 namespace shown {
+namespace {
+
+/// Whether a row begins with what was typed, in small letters. Blanks that indent it do not count.
+bool BeginsWith(std::string_view row, std::u32string_view typed) {
+  auto text = FromUtf8(row.substr(std::min(row.find_first_not_of(' '), row.size())));
+  std::transform(text.begin(), text.end(), text.begin(), SmallLetter);
+  return std::u32string_view(text).starts_with(typed);
+}
+
+}  // namespace
 
 // ---------------------------------------------------------------------------------------------- every control
 
@@ -240,26 +250,37 @@ Refusal OptionButton::Press() {
   return {};
 }
 
-OptionButton* OptionButton::Neighbour(int step) const {
+std::vector<OptionButton*> OptionButton::Group() const {
   std::vector<OptionButton*> group;
   for (auto* control : Form().Controls()) {
     auto* option = dynamic_cast<OptionButton*>(control);
-    if (option != nullptr && option->Parent() == Parent() && (option == this || option->WithinReach())) {
-      group.push_back(option);
-    }
+    if (option != nullptr && option->Parent() == Parent() && option->WithinReach()) group.push_back(option);
   }
+  return group;
+}
+
+bool OptionButton::IsTabStop() const {
+  const auto group = Group();
+  const auto on = std::find_if(group.begin(), group.end(), [](const auto* option) { return option->value_; });
+  const auto stop = on != group.end() ? on : group.begin();
+  return Control::IsTabStop() && stop != group.end() && *stop == this;
+}
+
+void OptionButton::PressNeighbour(int step) {
+  const auto group = Group();
   const auto size = static_cast<std::ptrdiff_t>(group.size());
   const auto place = std::find(group.begin(), group.end(), this) - group.begin();
-  return group[static_cast<std::size_t>((place + step + size) % size)];
+  // A handler of the dialog that saw the key first may have taken the option out of reach.
+  if (place != size) group[static_cast<std::size_t>((place + step + size) % size)]->Press();
 }
 
 void OptionButton::TakeKey(const Key& key) {
   if (key.Code == keys::Space) {
     Press();
   } else if (key.Code == keys::Down || key.Code == keys::Right) {
-    Neighbour(1)->Press();
+    PressNeighbour(1);
   } else if (key.Code == keys::Up || key.Code == keys::Left) {
-    Neighbour(-1)->Press();
+    PressNeighbour(-1);
   }
 }
 
@@ -406,6 +427,10 @@ void TextControl::MoveCaret(const Key& key) {
   Changed();
 }
 
+void TextBox::EnterByTab() {
+  if (!MultiLine()) SelectAll();
+}
+
 // ---------------------------------------------------------------------------------------------- lists
 
 const std::string& RowList::List(int row) const noexcept {
@@ -504,6 +529,20 @@ bool RowList::PickByKey(const Key& key) {
   return true;
 }
 
+void RowList::PickByTyping(char32_t character) {
+  if (std::exchange(typedSince_, owner_.Form().typingPauses_) != owner_.Form().typingPauses_) typed_.clear();
+  // The first character leaves the row that stands, further ones may keep it.
+  const int first = std::max(typed_.empty() ? listIndex_ + 1 : +listIndex_, 0);
+  typed_.push_back(SmallLetter(character));
+  for (int i = 0; i < ListCount(); ++i) {
+    const int row = (first + i) % ListCount();
+    if (!BeginsWith(List(row), typed_)) continue;
+    if (row != listIndex_) Select(row, By::Operator);
+    return;
+  }
+  typed_.clear();
+}
+
 ComboBox::ComboBox(ControlKind kind, shown::Dialog& form, const Frame* parent, std::string name, int index)
     : TextControl(kind, form, parent, std::move(name), index), RowList(static_cast<Control&>(*this)) {}
 
@@ -522,14 +561,20 @@ void ComboBox::Select(int row, By by) {
 }
 
 void ComboBox::TakeKey(const Key& key) {
-  const bool movesCaret = HasEditField() && (key.Code == keys::Home || key.Code == keys::End);
-  if (movesCaret || key.Character != 0) return TextControl::TakeKey(key);
+  const bool ends = key.Code == keys::Home || key.Code == keys::End;
+  const bool steps =
+      key.Code == keys::Up || key.Code == keys::Down || key.Code == keys::PageUp || key.Code == keys::PageDown;
+  const bool searches = key.Character != 0 && !HasEditField();
+  // In an edit field, Home and End are keys of the caret.
+  if (!steps && !searches && !(ends && !HasEditField())) return TextControl::TakeKey(key);
   Key passed = key;
-  const bool picks =
-      key.Code >= keys::PageUp && key.Code <= keys::Down && key.Code != keys::Left && key.Code != keys::Right;
-  if (!picks) return TextControl::TakeKey(key);
   Raise(By::Operator, KeyDown, "KeyDown", passed.Code);
-  if (passed.Code != 0 && !OutOfReach()) PickByKey(passed);
+  if (passed.Code == 0 || OutOfReach()) return;
+  if (searches) {
+    PickByTyping(key.Character);
+  } else {
+    PickByKey(passed);
+  }
 }
 
 ListBox::ListBox(ControlKind kind, shown::Dialog& form, const Frame* parent, std::string name, int index)
@@ -576,8 +621,10 @@ Refusal ListBox::MarkRow(int row, bool on) {
 
 void ListBox::TakeKey(const Key& key) {
   if (PickByKey(key)) return;
-  if (key.Code == keys::Space && choice_ != Choice::One && HasRow(ListIndex())) {
-    Mark(ListIndex(), !Selected(ListIndex()), By::Operator);
+  if (key.Code == keys::Space && choice_ != Choice::One) {
+    if (HasRow(ListIndex())) Mark(ListIndex(), !Selected(ListIndex()), By::Operator);
+  } else if (key.Character != 0) {
+    PickByTyping(key.Character);
   }
 }
 

@@ -7,11 +7,10 @@
 // The operator's side of a dialog: focus, keys, close box.
 
 namespace orlin::shown {
-namespace {
 
-bool TakesTab(const Control* control) { return control->TakesFocus() && control->TabStop() && control->WithinReach(); }
-
-}  // namespace
+bool Dialog::TakesTab(const Control* control) {
+  return control->TakesFocus() && control->WithinReach() && control->IsTabStop();
+}
 
 Control* Dialog::Find(std::string_view name) const noexcept {
   const auto found =
@@ -86,7 +85,13 @@ void Dialog::MoveFocusByTab(bool backwards) {
   auto place = at != controls_.end() ? static_cast<std::size_t>(at - controls_.begin()) : backwards ? 0 : count - 1;
   for (std::size_t steps = 0; steps < count; ++steps) {
     place = (place + (backwards ? count - 1 : 1)) % count;
-    if (TakesTab(controls_[place])) return MoveFocus(controls_[place], By::Operator);
+    auto* const next = controls_[place];
+    if (!TakesTab(next)) continue;
+    if (next == focus_) return;
+    MoveFocus(next, By::Operator);
+    // Handlers may have sent the focus elsewhere.
+    if (focus_ == next) next->EnterByTab();
+    return;
   }
 }
 
@@ -117,8 +122,10 @@ Refusal Dialog::PressKey(const Key& key) {
   if (key.Alt) return PressAccessKey(key.Character);
 
   auto* const target = focus_ != nullptr && focus_->WithinReach() ? focus_ : nullptr;
-  if (key.Code == keys::Enter && (target == nullptr || !target->KeepsEnter()))
-    return PressButton(defaultButton_), Refusal();
+  if (key.Code == keys::Enter && (target == nullptr || !target->KeepsEnter())) {
+    auto* const focused = dynamic_cast<Button*>(target);
+    return PressButton(focused != nullptr ? focused : defaultButton_), Refusal();
+  }
   if (key.Code == keys::Escape && (target == nullptr || !target->KeepsEscape()))
     return PressButton(cancelButton_), Refusal();
   if (key.Code == keys::Tab) return MoveFocusByTab(key.Shift), Refusal();

@@ -166,7 +166,7 @@ void Grid::StartEditing(By by) {
   editing_ = true;
   editor_ = {};
   editor_.SetText(CellText(row_, col_));
-  editor_.Select(editor_.Length(), 0);
+  editor_.Select(0, editor_.Length());
   Changed();
 }
 
@@ -228,6 +228,9 @@ void Grid::TakeKey(const Key& key) {
     TakeEditorKey(key);
   } else if (key.Code == keys::F2) {
     DoubleClick();
+  } else if (key.Character != 0) {
+    // Typing over a cell edits it.
+    if (!DoubleClick() && editing_) TakeEditorKey(key);
   } else {
     TakeNavigationKey(key);
   }

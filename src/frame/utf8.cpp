@@ -80,4 +80,9 @@ int CharacterCount(std::string_view text) {
   return count;
 }
 
+char32_t SmallLetter(char32_t letter) noexcept {
+  const bool capital = (letter >= U'A' && letter <= U'Z') || (letter >= 0xC0 && letter <= 0xDE && letter != 0xD7);
+  return capital ? letter + 0x20 : letter;
+}
+
 }  // namespace orlin

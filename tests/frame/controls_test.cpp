@@ -1,5 +1,7 @@
 #include "frame/controls.h"
 
+#include <tuple>
+
 #include "form_fixture.h"
 
 // What each kind of control does when code sets it and when the operator uses it: the state, and the events in order.
@@ -147,6 +149,53 @@ TEST_F(ControlsTest, SpaceAndArrowsWorkButtonsAndMarks) {
   EXPECT_TRUE(optElsewhere.Value()) << "another container";
   EXPECT_EQ(During([&] { lstChecks.Focus(), Press(keys::Down), Type(U' '); }), Log{"lstChecks_ItemCheck 0"});
   EXPECT_TRUE(lstChecks.Selected(0));
+}
+
+TEST_F(ControlsTest, TypingPicksTheRowThatBeginsSo) {
+  lstOne.Clear(), cmbDrop.Clear();
+  for (const char* row : {"Medical", "\u00C4rger", "  Mode", "Month", "5. x"})
+    lstOne.AddItem(row), cmbDrop.AddItem(row);
+  // A pause stands as "|".
+  const std::tuple<int, std::u32string_view, std::int16_t, std::size_t> cases[] = {
+      {-1, U"m", 0, 1},     {0, U"m", 2, 1},    {3, U"M", 0, 1},    {0, U"mo", 2, 1}, {0, U"mon", 3, 2},
+      {0, U"m|m", 3, 2},    {1, U"5. X", 4, 1}, {2, U"mode", 2, 2}, {1, U"z", 1, 0},  {0, U"5zm", 0, 2},
+      {4, U"\u00E4", 1, 1}, {0, U" ", 0, 0},    {0, U"mz|m", 3, 2}};
+  for (const auto& [from, typed, to, clicks] : cases) {
+    lstOne.SetListIndex(from), cmbDrop.SetListIndex(from);
+    for (auto* list : {static_cast<shown::Control*>(&lstOne), static_cast<shown::Control*>(&cmbDrop)}) {
+      const auto log = During([&, &text = typed] {
+        list->Focus(), Form.PauseTyping();
+        for (const auto c : text) c == U'|' ? Form.PauseTyping() : static_cast<void>(Type(c));
+      });
+      EXPECT_EQ(dynamic_cast<shown::RowList&>(*list).ListIndex(), to) << list->Name() << from;
+      EXPECT_EQ(log.size(), clicks) << list->Name();
+    }
+  }
+  // Where rows are chosen, a letter moves to one, and a blank chooses it.
+  EXPECT_EQ(During([&] { lstMany.Focus(), Type(U'b'), Type(U' '); }), Log{"lstMany_Click"});
+  EXPECT_TRUE(lstMany.Selected(1));
+}
+
+TEST_F(ControlsTest, OptionsOfAContainerAreOneStopOfTab) {
+  OptionButton optC(fraOptions, "optC"), optD(fraOptions, "optD");
+  const auto stopBehind = [&] {
+    chkOn.Focus(), Press(keys::Tab);
+    return Form.FocusedControl()->Name();
+  };
+  During([&] {
+    EXPECT_EQ(stopBehind(), "optA");
+    optB.SetValue(true), Host->Happened.clear();
+    EXPECT_EQ(stopBehind(), "optB");
+    Press(keys::Tab);
+    EXPECT_TRUE(optElsewhere.HasFocus());
+    optC.SetEnabled(false), optB.Focus();
+    Press(keys::Right);
+    EXPECT_TRUE(optD.HasFocus() && optD.Value());
+    Press(keys::Down);
+    EXPECT_TRUE(optA.Value());
+    optA.SetEnabled(false);
+    EXPECT_EQ(stopBehind(), "optB") << "what cannot be reached is no stop, though it is on";
+  });
 }
 
 TEST_F(ControlsTest, AreOutOfReachWhereTheyOrTheirFrameAreHiddenOrDisabled) {

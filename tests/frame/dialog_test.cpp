@@ -1,5 +1,7 @@
 #include "frame/dialog.h"
 
+#include <array>
+
 #include "form_fixture.h"
 
 namespace orlin::testing {
@@ -77,6 +79,23 @@ TEST_F(DialogTest, EnterAndEscapePressTheButtonsWhereTheyAre) {
   EXPECT_TRUE(txtOne.HasFocus());
   EXPECT_EQ(During([&] { Press(keys::Escape); }), Log{"cmdCancel_Click"});
   EXPECT_EQ(During([&] { txtNotes.Focus(), Press(keys::Enter); }).back(), "txtNotes_Change \r\n");
+  EXPECT_EQ(During([&] { cmdCancel.Focus(), Press(keys::Enter); }).back(), "cmdCancel_Click");
+  // Left with the focus by code, a button that cannot be pressed leaves Enter to the default button.
+  EXPECT_EQ(During([&] { cmdCancel.SetFocus(), cmdCancel.SetEnabled(false), Press(keys::Enter); }), Log{"cmdOK_Click"});
+}
+
+TEST_F(DialogTest, TabMarksTheTextOfALine) {
+  txtOne.SetText("ab"), txtTwo.SetText("cd"), txtNotes.SetText("ef");
+  const auto marks = [&] { return std::array{txtOne.SelLength(), txtTwo.SelLength(), txtNotes.SelLength()}; };
+  During([&] {
+    EXPECT_EQ(marks(), (std::array{0, 0, 0})) << "opening the dialog marks nothing";
+    Press(keys::Tab), Press(keys::Tab);
+    EXPECT_EQ(marks(), (std::array{0, 2, 0}));
+    Form.PressKey(Key::ShiftTab()), Type(U'z');
+    EXPECT_EQ(txtTwo.Text(), "z");
+    txtOne.Focus();
+    EXPECT_EQ(marks(), (std::array{0, 0, 0})) << "neither does another way to the box";
+  });
 }
 
 TEST_F(DialogTest, ShowActivatesThenFocusesTheFirstControlWithinReach) {

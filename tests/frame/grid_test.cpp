@@ -35,18 +35,24 @@ class GridTest : public FormTest {
 };
 
 TEST_F(GridTest, EnterPutsTheTextIntoTheCell) {
-  EXPECT_EQ(During([&] { fa.DoubleClick(), Type(U'b'), Type(U'x'), Press(keys::Enter); }),
-            (Log{"start 1,1", "key 98 1,1", "key 120 1,1", "key 13 1,1", "after <1ab> <1ab> 1,1"}));
+  // The whole text is marked when the edit starts, by a double-click or by the first character.
+  const Log edit{"start 1,1", "key 98 1,1", "key 120 1,1", "key 13 1,1", "after <b> <b> 1,1"};
+  EXPECT_EQ(During([&] { fa.DoubleClick(), Type(U'b'), Type(U'x'), Press(keys::Enter); }), edit);
+  EXPECT_EQ(During([&] { Type(U'b'), Type(U'x'), Press(keys::Enter); }), edit);
   EXPECT_FALSE(fa.Editing());
   EXPECT_EQ(fa.EditorText(), "");
+  fa.StartEdit = [](int, int, bool& cancel) { cancel = true; };
+  EXPECT_EQ(During([&] { Type(U'c'), Press(keys::Down), Type(U' '); }), Log());
+  EXPECT_EQ(fa.CellText(1, 1) + fa.CellText(2, 1), "b2a");
 }
 
 TEST_F(GridTest, LeavingTheCellOrTheGridKeepsTheText) {
-  EXPECT_EQ(During([&] { fa.DoubleClick(), Type(U'b'), fa.MakeCurrent(2, 1); }).back(), "after <1ab> <1ab> 1,1");
+  EXPECT_EQ(During([&] { fa.DoubleClick(), Type(U'b'), fa.MakeCurrent(2, 1); }).back(), "after <b> <b> 1,1");
   EXPECT_EQ(fa.Row(), 2);
-  EXPECT_EQ(During([&] { fa.DoubleClick(), Type(U'c'), Press(keys::Tab); }).back(), "txtOther_GotFocus");
+  EXPECT_EQ(During([&] { fa.DoubleClick(), Press(keys::End), Type(U'c'), Press(keys::Tab); }).back(),
+            "txtOther_GotFocus");
   EXPECT_EQ(fa.CellText(2, 1), "2ac");
-  EXPECT_EQ(During([&] { fa.DoubleClick(), Type(U'd'), Press(keys::Up); }).back(), "after <2acd> <2acd> 2,1");
+  EXPECT_EQ(During([&] { fa.DoubleClick(), Type(U'd'), Press(keys::Up); }).back(), "after <d> <d> 2,1");
   EXPECT_EQ(fa.Row(), 1);
 }
 

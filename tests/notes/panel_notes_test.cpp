@@ -34,15 +34,16 @@ class PanelNotes : public ::testing::Test {
 
 TEST_F(PanelNotes, NotesAreReadExtendedAndStored) {
   Store("first");
-  const auto run = Open("dump\ntype txtNote \"second\"\nclick cmdAddNote\ndump\nclick cmdOK");
+  const auto run = Open(
+      "dump\ntype txtNote \"two\\r\\n\"\nkey - PageUp\ntype txtNote \"lines\"\nclick cmdAddNote\ndump\nclick cmdOK");
   EXPECT_EQ(run.Fields("show", "caption")[0], Text(1378, "TITLE", "Service"));
   EXPECT_EQ(run.Focus(0), "txtNote");
   EXPECT_EQ(run.Control("txtPanelNotes", 0).at("text"), "first");
   EXPECT_EQ(run.Control("txtNote", 1).at("text"), "");
   EXPECT_EQ(run.Focus(1), "txtNote");
   EXPECT_EQ(run.Result, 0);
-  EXPECT_EQ(run.Argument("Content"), "first\r\nsecond");
-  EXPECT_EQ(Stored(), "first\r\nsecond");
+  EXPECT_EQ(run.Argument("Content"), "first\r\ntwo\r\nlines");
+  EXPECT_EQ(Stored(), "first\r\ntwo\r\nlines");
 }
 
 TEST_F(PanelNotes, CancelKeepsTheTextForTheHostAndTheStoreAsItWas) {

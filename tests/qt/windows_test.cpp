@@ -174,13 +174,14 @@ TEST_F(WindowsTest, LongTextsKeepTheirPlaceAndLineEndsStayWhole) {
     EXPECT_EQ(its.txtLines.SelLength(), 2);
     Press(Qt::Key_Delete);
     EXPECT_EQ(its.txtLines.Text().substr(0, 4), "ab\r\n");
-    for (int i = 0; i < 20; ++i) Press(Qt::Key_PageDown);
-    EXPECT_GT(its.txtLines.SelStart(), 0);
-    Press(Qt::Key_Up);
-    Press(Qt::Key_Up);
     const auto scrolled = [&] { return Of<QPlainTextEdit>(its.txtLines).verticalScrollBar()->value(); };
+    Press(Qt::Key_PageDown);
+    EXPECT_GT(scrolled(), 0);
+    EXPECT_EQ(its.txtLines.SelStart(), 1) << "a page is turned for the eye, not for the caret";
+    Press(Qt::Key_End, {}, Qt::ControlModifier);
+    Press(Qt::Key_Up);
+    Press(Qt::Key_Up);
     const int before = scrolled();
-    EXPECT_GT(before, 0);
     Type("x");
     EXPECT_EQ(scrolled(), before);
   });
@@ -225,13 +226,13 @@ TEST_F(WindowsTest, KeyboardAloneReachesEverything) {
   Show(sample, [this](Sample& its) {
     EXPECT_TRUE(Window->testAttribute(Qt::WA_KeyboardFocusChange)) << "the focus is seen";
     std::vector<std::string> order;
-    for (int i = 0; i < 12; ++i) {
+    for (int i = 0; i < 10; ++i) {
       order.push_back(its.Form.FocusedControl()->Name());
       EXPECT_EQ(&Window->KeyTarget(), Window->ViewOf(*its.Form.FocusedControl()).KeyboardWidget());
       Press(Qt::Key_Tab);
     }
-    EXPECT_EQ(order, (std::vector<std::string>{"txtName", "cmbPick", "cmbEdit", "txtLines", "optA", "optB", "optC",
-                                               "txtHour", "chkOn", "lstChecks", "grdTable", "cmdOK"}));
+    EXPECT_EQ(order, (std::vector<std::string>{"txtName", "cmbPick", "cmbEdit", "txtLines", "optA", "txtHour", "chkOn",
+                                               "lstChecks", "grdTable", "cmdOK"}));
     Press(Qt::Key_Backtab, {}, Qt::ShiftModifier);
     EXPECT_EQ(its.Form.FocusedControl(), &its.cmdOK);
     Press(Qt::Key_B, "b", Qt::AltModifier);
@@ -240,6 +241,19 @@ TEST_F(WindowsTest, KeyboardAloneReachesEverything) {
     EXPECT_TRUE(Of<QAbstractButton>(its.chkOn).isChecked());
     Press(Qt::Key_Escape);
     EXPECT_EQ(its.Form.ExitCode(), ExitCode::Cancel);
+  });
+}
+
+TEST_F(WindowsTest, WhatIsMarkedOnTheScreenIsMarked) {
+  Sample sample;
+  sample.txtName.SetText("12");
+  Show(sample, [this](Sample& its) {
+    auto& field = Of<QLineEdit>(its.txtName);
+    EXPECT_FALSE(field.hasSelectedText()) << "as the window opens";
+    Press(Qt::Key_Tab);
+    Press(Qt::Key_Backtab, {}, Qt::ShiftModifier);
+    EXPECT_EQ(field.selectedText(), "12");
+    EXPECT_EQ(its.txtName.SelLength(), 2);
   });
 }
 

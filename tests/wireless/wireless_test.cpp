@@ -177,8 +177,10 @@ TEST(WirelessPointID, TitleAndRangesAreShown) {
     int Option1, Option2, Title;
   } cases[] = {{8, 18, 10675}, {8, 17, 10676}, {4, 18, 10673}, {9, 0, 10677}, {0, 0, 10676}};
   for (const auto& [option1, option2, title] : cases) {
-    const auto run = Play("clsWirelessPointID", {Assign("iOption1", option1), Assign("iOption2", option2)}, "dump");
+    const auto run = Play("clsWirelessPointID", {Assign("iOption1", option1), Assign("iOption2", option2)},
+                          "key txtRanges PageDown\ndump");
     EXPECT_EQ(run.Events("show").at(0).at("caption"), Text(title)) << option1;
+    EXPECT_EQ(run.Control("txtRanges").at("selStart"), 0);
     EXPECT_EQ(run.Control("txtRanges").at("text"), Text(1172) + "\t\t" + Text(1173) + "\r\n0\t\t281474976710655\r\n");
   }
 }
