@@ -4,7 +4,7 @@
 #include <memory>
 #include <utility>
 
-#include "OrlinCustomDialogs/dialog_host.h"
+#include "OrlinCustomDialogs/host/dialog_host.h"
 #include "OrlinCustomDialogs/failure.h"
 
 #include "app/account.h"

@@ -5,7 +5,7 @@
 #include <set>
 #include <utility>
 
-#include "OrlinCustomDialogs/keys.h"
+#include "OrlinCustomDialogs/host/keys.h"
 
 #include "forms/label_text.h"
 
@@ -13,7 +13,6 @@ namespace orlin {
 namespace {
 
 using shown::Control;
-using shown::Label;
 
 std::string Spoken(const std::string& caption) {
   auto spoken = PlainCaption(caption);
@@ -22,8 +21,7 @@ std::string Spoken(const std::string& caption) {
 }
 
 bool IsSingleLine(const Control& control) {
-  const auto* box = dynamic_cast<const shown::TextBox*>(&control);
-  return box != nullptr && !box->MultiLine();
+  return control.Kind() == ControlKind::TextBox && !control.AsTextField()->MultiLine();
 }
 
 std::string FrameOf(const Control& control) {
@@ -39,13 +37,14 @@ std::vector<std::string> AllRows(const shown::RowList& list) {
   return rows;
 }
 
-told::Choice Choice(const shown::ComboBox& box) {
+told::Choice ChoiceOf(const Control& box) {
   // A text that was typed is in no row.
-  if (box.ListIndex() < 0 && box.Text().empty()) return {};
-  return {{box.Text()}, false, {}};
+  const auto text = box.AsTextField()->Text();
+  if (box.AsRowList()->ListIndex() < 0 && text.empty()) return {};
+  return {{text}, false, {}};
 }
 
-told::Choice Choice(const shown::ListBox& list, bool labelled) {
+told::Choice ChoiceIn(const shown::RowList& list, bool labelled) {
   told::Choice choice;
   choice.Many = list.Choice() != shown::Choice::One;
   for (int row = 0; row < list.ListCount(); ++row) {
@@ -77,18 +76,17 @@ class Teller {
     for (const auto* control : dialog_.Controls()) {
       if (!control->IsShown()) continue;
       const auto* before = std::exchange(lastIn[control->Parent()], control);
-      const auto* label = dynamic_cast<const Label*>(control);
       if (before == nullptr) continue;
-      if (label != nullptr && BelongsTo(*label, *before)) {
-        joined_[label] = IsSeparator(*label) ? Joins::WithoutBlank : Joins::WithBlank;
+      if (BelongsTo(*control, *before)) {
+        joined_[control] = IsSeparator(*control) ? Joins::WithoutBlank : Joins::WithBlank;
       } else if (joined_.contains(before) && IsSingleLine(*control)) {
         joined_[control] = joined_[before];
       }
     }
   }
 
-  [[nodiscard]] bool BelongsTo(const Label& label, const Control& before) const {
-    if (AccessKey(label.Caption()) != 0) return false;
+  [[nodiscard]] bool BelongsTo(const Control& label, const Control& before) const {
+    if (label.Kind() != ControlKind::Label || AccessKey(label.Caption()) != 0) return false;
     if (before.Kind() != ControlKind::UpDown && !IsSingleLine(before) && !joined_.contains(&before)) return false;
     const bool tellsWhatTheBoxMeans = IsSingleLine(before) && label.Names() == nullptr;
     return tellsWhatTheBoxMeans || IsSeparator(label) || IsUnit(label);
@@ -97,26 +95,24 @@ class Teller {
   /// Several labels may stand before a control: the last one names it, and the others are texts.
   void FindCaptions() {
     for (const auto* control : dialog_.Controls()) {
-      const auto* label = dynamic_cast<const Label*>(control);
-      if (label == nullptr || !label->IsShown() || joined_.contains(label)) continue;
-      const auto* named = label->Names();
-      if (named != nullptr && !Spoken(label->Caption()).empty()) labels_[named] = label;
+      if (!control->IsShown() || joined_.contains(control)) continue;
+      const auto* named = control->Names();
+      if (named != nullptr && !Spoken(control->Caption()).empty()) labels_[named] = control;
     }
   }
 
   /// Labels of a colour stand behind the texts that tell what the colours mean, in the same order.
   void FindColours() {
-    std::vector<const Label*> texts;
+    std::vector<const Control*> texts;
     std::size_t next = 0;
     for (const auto* control : dialog_.Controls()) {
-      const auto* label = dynamic_cast<const Label*>(control);
-      if (label == nullptr || !label->IsShown()) {
+      if (control->Kind() != ControlKind::Label || !control->IsShown()) {
         texts.clear();
         next = 0;
-      } else if (!label->Caption().empty()) {
-        texts.push_back(label);
-      } else if (label->BackColor() && next < texts.size()) {
-        meanings_[*label->BackColor()] = Spoken(texts[next]->Caption());
+      } else if (!control->Caption().empty()) {
+        texts.push_back(control);
+      } else if (control->BackColor() && next < texts.size()) {
+        meanings_[*control->BackColor()] = Spoken(texts[next]->Caption());
         explained_.insert(texts[next++]);
       }
     }
@@ -125,25 +121,24 @@ class Teller {
   void Tell(const Control& control) {
     switch (control.Kind()) {
       case ControlKind::Label:
-        return TellText(dynamic_cast<const Label&>(control));
+        return TellText(control);
       case ControlKind::TextBox:
-        return Add(control, told::Text{dynamic_cast<const shown::TextBox&>(control).Text()});
+        return Add(control, told::Text{control.AsTextField()->Text()});
       case ControlKind::ComboBox:
-        return Add(control, Choice(dynamic_cast<const shown::ComboBox&>(control)));
+        return Add(control, ChoiceOf(control));
       case ControlKind::ListBox:
-        return Add(control, Choice(dynamic_cast<const shown::ListBox&>(control), labels_.contains(&control)));
+        return Add(control, ChoiceIn(*control.AsRowList(), labels_.contains(&control)));
       case ControlKind::CheckBox:
-        return Add(control, told::Mark{dynamic_cast<const shown::CheckBox&>(control).Value() != 0});
       case ControlKind::OptionButton:
-        return Add(control, told::Mark{dynamic_cast<const shown::OptionButton&>(control).Value()});
+        return Add(control, told::Mark{control.AsMark()->IsOn()});
       case ControlKind::Grid:
-        return Add(control, TableOf(dynamic_cast<const shown::Grid&>(control)));
+        return Add(control, TableOf(*control.AsTable()));
       default:
         return;
     }
   }
 
-  void TellText(const Label& label) {
+  void TellText(const Control& label) {
     const auto text = PlainCaption(label.Caption());
     if (joined_.contains(&label)) return Add(label, told::Text{text});
     const auto* named = label.Names();
@@ -180,7 +175,7 @@ class Teller {
     told_.push_back(std::move(one));
   }
 
-  [[nodiscard]] told::Table TableOf(const shown::Grid& grid) const {
+  [[nodiscard]] told::Table TableOf(const shown::Table& grid) const {
     told::Table table;
     table.FixedRows = grid.FixedRows();
     table.FixedCols = grid.FixedCols();
@@ -198,7 +193,7 @@ class Teller {
 
   const shown::Dialog& dialog_;
   std::map<const Control*, Joins> joined_;
-  std::map<const Control*, const Label*> labels_;
+  std::map<const Control*, const Control*> labels_;
   std::map<std::int32_t, std::string> meanings_;  // of colours
   std::set<const Control*> explained_;            // labels that are among the meanings
   std::vector<ToldControl> told_;

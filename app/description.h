@@ -6,7 +6,7 @@
 #include <variant>
 #include <vector>
 
-#include "OrlinCustomDialogs/controls.h"
+#include "OrlinCustomDialogs/host/controls.h"
 
 namespace orlin {
 

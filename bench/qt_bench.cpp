@@ -107,29 +107,29 @@ class BareDialog {
         return new QPushButton(caption);
       case ControlKind::CheckBox: {
         auto* box = new QCheckBox(caption);
-        box->setChecked(dynamic_cast<const shown::CheckBox&>(control).Value() != 0);
+        box->setChecked(control.AsMark()->IsOn());
         return box;
       }
       case ControlKind::OptionButton: {
         auto* option = new QRadioButton(caption);
-        option->setChecked(dynamic_cast<const shown::OptionButton&>(control).Value());
+        option->setChecked(control.AsMark()->IsOn());
         return option;
       }
       case ControlKind::TextBox: {
-        const auto& box = dynamic_cast<const shown::TextBox&>(control);
+        const auto& box = *control.AsTextField();
         if (box.MultiLine()) return new QPlainTextEdit(Shown(box.Text()));
         return new QLineEdit(Shown(box.Text()));
       }
       case ControlKind::ComboBox: {
-        const auto& box = dynamic_cast<const shown::ComboBox&>(control);
+        const auto& rows = *control.AsRowList();
         auto* list = new QComboBox();
-        list->setEditable(box.HasEditField());
-        for (int i = 0; i < box.ListCount(); ++i) list->addItem(Shown(box.List(i)));
-        list->setCurrentIndex(box.ListIndex());
+        list->setEditable(control.AsTextField()->HasEditField());
+        for (int i = 0; i < rows.ListCount(); ++i) list->addItem(Shown(rows.List(i)));
+        list->setCurrentIndex(rows.ListIndex());
         return list;
       }
       case ControlKind::ListBox: {
-        const auto& rows = dynamic_cast<const shown::ListBox&>(control);
+        const auto& rows = *control.AsRowList();
         auto* list = new QListWidget();
         for (int i = 0; i < rows.ListCount(); ++i) list->addItem(Shown(rows.List(i)));
         list->setCurrentRow(rows.ListIndex());
@@ -146,20 +146,20 @@ class BareDialog {
         return pair;
       }
       case ControlKind::Grid:
-        return MakeTable(dynamic_cast<const shown::Grid&>(control));
+        return MakeTable(*control.AsTable());
       case ControlKind::Timer:
         return nullptr;
     }
     return nullptr;
   }
 
-  static QWidget* MakeTable(const shown::Grid& grid) {
+  static QWidget* MakeTable(const shown::Table& grid) {
     auto* table = new QTableWidget(grid.Rows() - grid.FixedRows(), grid.Cols());
     table->verticalHeader()->hide();
     for (int col = 0; col < grid.Cols(); ++col) {
-      table->setHorizontalHeaderItem(col, new QTableWidgetItem(Shown(grid.CellText(0, col))));
+      table->setHorizontalHeaderItem(col, new QTableWidgetItem(Shown(grid.CellAt(0, col).Text)));
       for (int row = grid.FixedRows(); row < grid.Rows(); ++row) {
-        table->setItem(row - grid.FixedRows(), col, new QTableWidgetItem(Shown(grid.CellText(row, col))));
+        table->setItem(row - grid.FixedRows(), col, new QTableWidgetItem(Shown(grid.CellAt(row, col).Text)));
       }
     }
     table->resizeColumnsToContents();

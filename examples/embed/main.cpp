@@ -22,7 +22,7 @@ class SecondRowHost final : public orlin::DialogHost {
     std::cout << dialog.Caption() << '\n';
     dialog.Activate();
     for (auto* control : dialog.Controls()) {
-      auto* list = dynamic_cast<orlin::shown::ComboBox*>(control);
+      auto* list = control->AsRowList();
       if (list != nullptr && !list->PickRow(1)) break;  // no refusal: it is done
     }
     static_cast<void>(dialog.DefaultButton()->Press());

@@ -6,7 +6,7 @@
 #include <functional>
 #include <memory>
 
-#include "OrlinCustomDialogs/controls.h"
+#include "OrlinCustomDialogs/host/controls.h"
 
 namespace orlin {
 
@@ -63,21 +63,20 @@ class ControlView {
 /// The view of a control of any kind, in a widget that belongs to `parent`.
 [[nodiscard]] std::unique_ptr<ControlView> MakeView(shown::Control& control, Desk& desk, QWidget* parent);
 
-/// A view of a control of a known kind.
-template <class Shown>
+/// A view of a control, with what its kind adds: a text, rows, a table; of the others the control itself.
+template <class Part>
 class ViewOf : public ControlView {
  public:
-  using Shows = Shown;
-
-  ViewOf(Shown& control, Desk& desk) : control_(control), desk_(desk) {}
+  ViewOf(shown::Control& control, Part& its, Desk& desk) : control_(control), its_(its), desk_(desk) {}
   [[nodiscard]] shown::Control& Control() const final { return control_; }
 
  protected:
-  [[nodiscard]] Shown& Its() const { return control_; }
+  [[nodiscard]] Part& Its() const { return its_; }
   [[nodiscard]] Desk& At() const { return desk_; }
 
  private:
-  Shown& control_;
+  shown::Control& control_;
+  Part& its_;
   Desk& desk_;
 };
 

@@ -158,7 +158,7 @@ void DialogWindow::PresentFocus() {
   wanted->setFocus(Qt::OtherFocusReason);
   if (auto* area = Scrolling(); area != nullptr && area->isAncestorOf(wanted)) area->ensureWidgetVisible(wanted);
   // A field that is left forgets its mark.
-  if (another && dynamic_cast<const shown::TextControl*>(focused) != nullptr) ViewOf(*focused).Present();
+  if (another && focused != nullptr && focused->AsTextField() != nullptr) ViewOf(*focused).Present();
 }
 
 // What a screen reader says for a field: its label, else the frame that it stands in, else the dialog.

@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-#include "OrlinCustomDialogs/controls.h"
+#include "OrlinCustomDialogs/host/controls.h"
 
 #include "qt/control_view.h"
 #include "qt/form_plan.h"

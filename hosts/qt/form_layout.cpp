@@ -125,7 +125,7 @@ void FormLayout::AddRow(QGridLayout& grid, const FormRow& row) {
       return grid.addLayout(line, at, 0, 1, 2);
     }
     case FormRow::Kind::Frame: {
-      const auto& frame = dynamic_cast<const shown::Frame&>(*row.Lines.front().front());
+      const auto& frame = *row.Lines.front().front();
       auto* box = widgetOf_(frame);
       Fill(*box, plan_.Frames.at(&frame));
       frameGrids_.push_back(static_cast<QGridLayout*>(box->layout()));

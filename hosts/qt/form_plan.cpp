@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "OrlinCustomDialogs/keys.h"
+#include "OrlinCustomDialogs/host/keys.h"
 
 #include "forms/label_text.h"
 
@@ -11,12 +11,10 @@ namespace orlin {
 namespace {
 
 using shown::Control;
-using shown::Label;
 
 bool IsTall(const Control& control) {
   if (control.Kind() == ControlKind::ListBox || control.Kind() == ControlKind::Grid) return true;
-  const auto* box = dynamic_cast<const shown::TextBox*>(&control);
-  return box != nullptr && box->MultiLine();
+  return control.Kind() == ControlKind::TextBox && control.AsTextField()->MultiLine();
 }
 
 bool IsField(const Control& control) {
@@ -36,13 +34,12 @@ const Control* FirstBehind(const std::vector<Control*>& all, std::vector<Control
 }
 
 /// The label of each field: the last one before it that stands for it.
-std::map<const Control*, Label*> LabelsOf(const std::vector<Control*>& all) {
-  std::map<const Control*, Label*> labels;
+std::map<const Control*, Control*> LabelsOf(const std::vector<Control*>& all) {
+  std::map<const Control*, Control*> labels;
   for (auto at = all.begin(); at != all.end(); ++at) {
-    auto* label = dynamic_cast<Label*>(*at);
-    if (label == nullptr) continue;
+    if ((*at)->Kind() != ControlKind::Label) continue;
     const auto* named = FirstBehind(all, at);
-    if (named != nullptr && WantsLabel(*named)) labels[named] = label;
+    if (named != nullptr && WantsLabel(*named)) labels[named] = *at;
   }
   return labels;
 }
@@ -50,7 +47,7 @@ std::map<const Control*, Label*> LabelsOf(const std::vector<Control*>& all) {
 /// Reads the controls of one container in order.
 class Planner {
  public:
-  Planner(std::vector<Control*> inside, std::map<const Control*, Label*>& labels)
+  Planner(std::vector<Control*> inside, std::map<const Control*, Control*>& labels)
       : inside_(std::move(inside)), labels_(labels) {}
 
   FormPlan Plan() {
@@ -64,8 +61,8 @@ class Planner {
   // One that names nothing tells what the box means.
   void FindUnits() {
     for (std::size_t i = 1; i < inside_.size(); ++i) {
-      auto* label = dynamic_cast<Label*>(inside_[i]);
-      if (label == nullptr || AccessKey(label->Caption()) != 0) continue;
+      auto* label = inside_[i];
+      if (label->Kind() != ControlKind::Label || AccessKey(label->Caption()) != 0) continue;
       const auto kind = inside_[i - 1]->Kind();
       const bool behindBox = kind == ControlKind::UpDown ||
                              (kind == ControlKind::TextBox && !IsTall(*inside_[i - 1])) ||
@@ -84,7 +81,7 @@ class Planner {
       case ControlKind::StatusBar:
         return;
       case ControlKind::Label:
-        return PlaceLabel(dynamic_cast<Label&>(control));
+        return PlaceLabel(control);
       case ControlKind::UpDown:
         return Continue(control);
       case ControlKind::Frame:
@@ -111,12 +108,13 @@ class Planner {
     }
     auto& line = plan_.Rows.back().Lines.back();
     // Up-down buttons stand at the box, in front of its unit.
-    const auto* unit = dynamic_cast<const Label*>(line.back());
-    const bool beforeUnit = control.Kind() == ControlKind::UpDown && unit != nullptr && !IsSeparator(*unit);
+    const auto& last = *line.back();
+    const bool beforeUnit =
+        control.Kind() == ControlKind::UpDown && last.Kind() == ControlKind::Label && !IsSeparator(last);
     line.insert(beforeUnit ? std::prev(line.end()) : line.end(), &control);
   }
 
-  [[nodiscard]] Label* LabelOf(const Control& control) const {
+  [[nodiscard]] Control* LabelOf(const Control& control) const {
     const auto found = labels_.find(&control);
     return found == labels_.end() ? nullptr : found->second;
   }
@@ -126,7 +124,7 @@ class Planner {
            (plan_.Rows.back().What == FormRow::Kind::Field || plan_.Rows.back().What == FormRow::Kind::Tall);
   }
 
-  void PlaceLabel(Label& label) {
+  void PlaceLabel(Control& label) {
     if (std::find(units_.begin(), units_.end(), &label) != units_.end()) {
       Continue(label);
       joinsNext_ = true;
@@ -150,7 +148,7 @@ class Planner {
   }
 
   // The colours stand in front of the texts that explain them, in the same order.
-  void PlaceColourKey(Label& colour) {
+  void PlaceColourKey(Control& colour) {
     auto row = plan_.Rows.end();
     while (row != plan_.Rows.begin() && std::prev(row)->What == FormRow::Kind::Text) --row;
     while (row != plan_.Rows.end() && !row->Lines.empty()) ++row;
@@ -184,7 +182,7 @@ class Planner {
   }
 
   std::vector<Control*> inside_;
-  std::map<const Control*, Label*>& labels_;
+  std::map<const Control*, Control*>& labels_;
   std::vector<const Control*> units_;
   std::size_t at_ = 0;
   bool joinsNext_ = false;
@@ -205,7 +203,7 @@ FormLine TakeButtons(std::vector<Control*>& inside) {
   return buttons;
 }
 
-std::vector<Control*> ControlsIn(const shown::Dialog& dialog, const shown::Frame* container) {
+std::vector<Control*> ControlsIn(const shown::Dialog& dialog, const Control* container) {
   std::vector<Control*> inside;
   std::copy_if(dialog.Controls().begin(), dialog.Controls().end(), std::back_inserter(inside),
                [&](const auto* control) { return control->Parent() == container; });
@@ -218,9 +216,9 @@ DialogPlan PlanDialog(const shown::Dialog& dialog) {
   DialogPlan plan;
   plan.Labels = LabelsOf(dialog.Controls());
   for (auto* control : dialog.Controls()) {
-    if (auto* status = dynamic_cast<shown::StatusBar*>(control)) plan.Status = status;
-    if (const auto* frame = dynamic_cast<const shown::Frame*>(control)) {
-      plan.Frames[frame] = Planner(ControlsIn(dialog, frame), plan.Labels).Plan();
+    if (control->Kind() == ControlKind::StatusBar) plan.Status = control;
+    if (control->Kind() == ControlKind::Frame) {
+      plan.Frames[control] = Planner(ControlsIn(dialog, control), plan.Labels).Plan();
     }
   }
   auto inside = ControlsIn(dialog, nullptr);

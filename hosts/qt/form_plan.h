@@ -3,7 +3,7 @@
 #include <map>
 #include <vector>
 
-#include "OrlinCustomDialogs/controls.h"
+#include "OrlinCustomDialogs/host/controls.h"
 
 namespace orlin {
 
@@ -22,7 +22,7 @@ struct FormRow {
     Buttons,  ///< buttons among the fields
   };
   Kind What = Kind::Field;
-  shown::Label* Label = nullptr;
+  shown::Control* Label = nullptr;
   std::vector<FormLine> Lines;
 };
 
@@ -34,12 +34,12 @@ struct FormPlan {
 /// The parts of a dialog that stand in fixed places.
 struct DialogPlan {
   FormPlan Body;
-  std::map<const shown::Frame*, FormPlan> Frames;
+  std::map<const shown::Control*, FormPlan> Frames;
   FormLine LeftButtons;   ///< of the button row: those that do not end the dialog
   FormLine RightButtons;  ///< OK and Cancel
-  shown::StatusBar* Status = nullptr;
+  shown::Control* Status = nullptr;
   /// The label of each field that has one; fields that take turns share it.
-  std::map<const shown::Control*, shown::Label*> Labels;
+  std::map<const shown::Control*, shown::Control*> Labels;
 };
 
 [[nodiscard]] DialogPlan PlanDialog(const shown::Dialog& dialog);

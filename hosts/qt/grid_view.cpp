@@ -29,7 +29,7 @@ QFont Bold(QFont font) {
 /// The cells of a grid as they were when the window was last brought up to date. The first fixed row is the title row.
 class CellModel final : public QAbstractTableModel {
  public:
-  CellModel(const shown::Grid& grid, QWidget& view) : QAbstractTableModel(&view), grid_(grid), view_(view) {}
+  CellModel(const shown::Table& grid, QWidget& view) : QAbstractTableModel(&view), grid_(grid), view_(view) {}
 
   /// Tells whether anything is different.
   bool Take() {
@@ -101,9 +101,9 @@ class CellModel final : public QAbstractTableModel {
   }
 
  private:
-  const shown::Grid& grid_;
+  const shown::Table& grid_;
   QWidget& view_;
-  std::vector<std::vector<shown::Grid::Cell>> cells_;
+  std::vector<std::vector<shown::Cell>> cells_;
   int cols_ = 0;
 };
 
@@ -131,8 +131,9 @@ class CellDelegate final : public QStyledItemDelegate {
 
 class CellTable final : public QTableView {
  public:
-  CellTable(shown::Grid& grid, Desk& desk, QWidget* parent) : QTableView(parent), grid_(grid), desk_(desk) {
-    model_ = new CellModel(grid, *this);
+  CellTable(shown::Control& control, Desk& desk, QWidget* parent)
+      : QTableView(parent), control_(control), grid_(*control.AsTable()), desk_(desk) {
+    model_ = new CellModel(grid_, *this);
     setModel(model_);
     setItemDelegate(new CellDelegate(this));
     setFocusPolicy(Qt::TabFocus);
@@ -188,7 +189,7 @@ class CellTable final : public QTableView {
     desk_.Do([&]() -> Refusal {
       const int row = cell.row() + model_->TitleRows();
       const bool canBeCurrent = cell.isValid() && row >= grid_.FixedRows() && cell.column() >= grid_.FixedCols();
-      return canBeCurrent ? grid_.MakeCurrent(row, cell.column()) : grid_.Focus();
+      return canBeCurrent ? grid_.MakeCurrent(row, cell.column()) : control_.Focus();
     });
   }
   void mouseDoubleClickEvent(QMouseEvent* event) override {
@@ -219,9 +220,9 @@ class CellTable final : public QTableView {
       desk_.Do([&] { return grid_.PasteIntoEditor(Given(text)); });
     };
     editor_->Actions.Type = [this](const QString& text) {
-      for (const auto& key : KeysTyping(text)) desk_.Press(key, grid_.Form());
+      for (const auto& key : KeysTyping(text)) desk_.Press(key, control_.Form());
     };
-    editor_->Actions.Delete = [this] { desk_.Press(Key::Named(keys::Delete), grid_.Form()); };
+    editor_->Actions.Delete = [this] { desk_.Press(Key::Named(keys::Delete), control_.Form()); };
   }
 
   void PlaceEditor() {
@@ -257,7 +258,8 @@ class CellTable final : public QTableView {
     return {width, titlesHeight_ + rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth()};
   }
 
-  shown::Grid& grid_;
+  shown::Control& control_;
+  shown::Table& grid_;
   Desk& desk_;
   CellModel* model_ = nullptr;
   PassiveLine* editor_ = nullptr;
@@ -266,10 +268,10 @@ class CellTable final : public QTableView {
   int titlesHeight_ = 0;  // takes its time to measure
 };
 
-class GridView final : public ViewOf<shown::Grid> {
+class GridView final : public ViewOf<shown::Table> {
  public:
-  GridView(shown::Grid& grid, Desk& desk, QWidget* parent)
-      : ViewOf(grid, desk), table_(new CellTable(grid, desk, parent)) {}
+  GridView(shown::Control& grid, Desk& desk, QWidget* parent)
+      : ViewOf(grid, *grid.AsTable(), desk), table_(new CellTable(grid, desk, parent)) {}
   [[nodiscard]] QWidget* Widget() const override { return table_; }
   [[nodiscard]] QWidget* KeyboardWidget() const override { return table_->KeyboardWidget(); }
   bool TakeWindowKey(const QKeyEvent& key) override { return table_->TakeEditingKey(key); }
@@ -282,7 +284,7 @@ class GridView final : public ViewOf<shown::Grid> {
 }  // namespace
 
 std::unique_ptr<ControlView> MakeGridView(shown::Control& control, Desk& desk, QWidget* parent) {
-  return MakeOne<GridView>(control, desk, parent);
+  return std::make_unique<GridView>(control, desk, parent);
 }
 
 }  // namespace orlin

@@ -36,13 +36,12 @@ void SendKey(QWidget& target, const KeyPress& key) {
   // The key may have ended the dialog or moved the focus; the release then goes nowhere.
 }
 
-template <class Kind>
-Kind* Reachable(const shown::Dialog& dialog, const std::string& name) {
-  auto* control = dynamic_cast<Kind*>(dialog.Find(name));
-  return control != nullptr && dynamic_cast<const shown::Control&>(*control).WithinReach() ? control : nullptr;
+shown::Control* Reachable(const shown::Dialog& dialog, const std::string& name) {
+  auto* control = dialog.Find(name);
+  return control != nullptr && control->WithinReach() ? control : nullptr;
 }
 
-bool CanBeCurrent(const shown::Grid& grid, int row, int col) {
+bool CanBeCurrent(const shown::Table& grid, int row, int col) {
   return row >= grid.FixedRows() && row < grid.Rows() && col >= grid.FixedCols() && col < grid.Cols();
 }
 
@@ -60,26 +59,22 @@ std::optional<QPoint> PointAt(const QLineEdit& field, int units) {
 // ---------------------------------------------------------------------------------------------- actions
 
 Refusal QtHands::Do(shown::Dialog& dialog, const actions::Select& action) {
-  auto* list = Reachable<shown::ListBox>(dialog, action.Control);
-  auto* box = Reachable<shown::ComboBox>(dialog, action.Control);
-  const bool hasRow = [&] {
-    const auto* rows = list != nullptr ? static_cast<const shown::RowList*>(list) : box;
-    return rows != nullptr && action.Row >= 0 && action.Row < rows->ListCount();
-  }();
-  const bool marks = action.On.has_value();
-  if (hasRow && box != nullptr && !marks) {
-    PickFromDropDown(*box, action.Row);
-    return Done();
-  }
-  const bool fits = list != nullptr && marks == (list->Choice() != shown::Choice::One);
+  const auto* control = Reachable(dialog, action.Control);
+  const auto* rows = control != nullptr ? control->AsRowList() : nullptr;
+  const bool hasRow = rows != nullptr && action.Row >= 0 && action.Row < rows->ListCount();
+  const bool fits = hasRow && action.On.has_value() == (rows->Choice() != shown::Choice::One);
   // A row that is as wanted already needs no press, which would turn it.
-  if (!hasRow || !fits || (marks && list->Selected(action.Row) == *action.On)) return Directly(dialog, action);
-  PressRow(*list, action.Row);
+  if (!fits || (action.On && rows->Selected(action.Row) == *action.On)) return Directly(dialog, action);
+  if (control->Kind() == ControlKind::ComboBox) {
+    PickFromDropDown(*control, action.Row);
+  } else {
+    PressRow(*control, action.Row);
+  }
   return Done();
 }
 
 Refusal QtHands::Do(shown::Dialog& dialog, const actions::Click& action) {
-  const auto* control = Reachable<shown::Control>(dialog, action.Control);
+  const auto* control = Reachable(dialog, action.Control);
   auto* button = control != nullptr ? qobject_cast<QAbstractButton*>(window_->ViewOf(*control).Widget()) : nullptr;
   if (button == nullptr) return Directly(dialog, action);
   ::orlin::Click(*button, {button->height() / 2, button->height() / 2});
@@ -87,7 +82,7 @@ Refusal QtHands::Do(shown::Dialog& dialog, const actions::Click& action) {
 }
 
 Refusal QtHands::Do(shown::Dialog& dialog, const actions::Type& action) {
-  const auto* control = Reachable<shown::Control>(dialog, action.Control);
+  const auto* control = Reachable(dialog, action.Control);
   if (control == nullptr || !control->TakesFocus()) return Directly(dialog, action);
   if (!Focus(*control)) return Done();
   for (const auto& key : orlin::KeysOf(action.Text)) Press(key);
@@ -96,7 +91,7 @@ Refusal QtHands::Do(shown::Dialog& dialog, const actions::Type& action) {
 
 Refusal QtHands::Do(shown::Dialog& dialog, const actions::KeyStroke& action) {
   if (action.Control) {
-    const auto* control = Reachable<shown::Control>(dialog, *action.Control);
+    const auto* control = Reachable(dialog, *action.Control);
     if (control == nullptr || !control->TakesFocus()) return Directly(dialog, action);
     if (!Focus(*control)) return Done();
   }
@@ -105,8 +100,9 @@ Refusal QtHands::Do(shown::Dialog& dialog, const actions::KeyStroke& action) {
 }
 
 Refusal QtHands::Do(shown::Dialog& dialog, const actions::Caret& action) {
-  const auto* box = Reachable<shown::TextControl>(dialog, action.Control);
-  if (box == nullptr || !box->HasEditField()) return Directly(dialog, action);
+  const auto* box = Reachable(dialog, action.Control);
+  const auto* text = box != nullptr ? box->AsTextField() : nullptr;
+  if (text == nullptr || !text->HasEditField()) return Directly(dialog, action);
   if (!Focus(*box)) return Done();
   auto* widget = window_->ViewOf(*box).Widget();
   auto* combo = qobject_cast<QComboBox*>(widget);
@@ -122,17 +118,17 @@ Refusal QtHands::Do(shown::Dialog& dialog, const actions::Caret& action) {
 }
 
 Refusal QtHands::Do(shown::Dialog& dialog, const actions::FocusOn& action) {
-  const auto* control = Reachable<shown::Control>(dialog, action.Control);
+  const auto* control = Reachable(dialog, action.Control);
   if (control == nullptr || !control->TakesFocus()) return Directly(dialog, action);
   static_cast<void>(Focus(*control));
   return Done();
 }
 
 Refusal QtHands::Do(shown::Dialog& dialog, const actions::Step& action) {
-  const auto* buttons = Reachable<shown::UpDown>(dialog, action.Control);
-  if (buttons == nullptr) return Directly(dialog, action);
+  const auto* buttons = Reachable(dialog, action.Control);
+  if (buttons == nullptr || buttons->AsStepper() == nullptr) return Directly(dialog, action);
   const auto pair = window_->ViewOf(*buttons).Widget()->findChildren<QToolButton*>();
-  auto& button = *pair[action.Direction == shown::UpDown::Direction::Up ? 0 : 1];
+  auto& button = *pair[action.Direction == shown::Direction::Up ? 0 : 1];
   for (int i = 0; i < action.Times && dialog.IsShown(); ++i) {
     if (!buttons->WithinReach()) return Directly(dialog, action);
     ::orlin::Click(button, button.rect().center());
@@ -141,16 +137,18 @@ Refusal QtHands::Do(shown::Dialog& dialog, const actions::Step& action) {
 }
 
 Refusal QtHands::Do(shown::Dialog& dialog, const actions::MakeCell& action) {
-  const auto* grid = Reachable<shown::Grid>(dialog, action.Grid);
-  if (grid == nullptr || !CanBeCurrent(*grid, action.Row, action.Col)) return Directly(dialog, action);
+  const auto* grid = Reachable(dialog, action.Grid);
+  const auto* table = grid != nullptr ? grid->AsTable() : nullptr;
+  if (table == nullptr || !CanBeCurrent(*table, action.Row, action.Col)) return Directly(dialog, action);
   PressCell(*grid, action.Row, action.Col, QEvent::MouseButtonPress);
   return Done();
 }
 
 Refusal QtHands::Do(shown::Dialog& dialog, const actions::DoubleClick& action) {
-  const auto* grid = Reachable<shown::Grid>(dialog, action.Grid);
-  if (grid == nullptr || grid->Row() < 0) return Directly(dialog, action);
-  PressCell(*grid, grid->Row(), grid->Col(), QEvent::MouseButtonDblClick);
+  const auto* grid = Reachable(dialog, action.Grid);
+  const auto* table = grid != nullptr ? grid->AsTable() : nullptr;
+  if (table == nullptr || table->Row() < 0) return Directly(dialog, action);
+  PressCell(*grid, table->Row(), table->Col(), QEvent::MouseButtonDblClick);
   return Done();
 }
 
@@ -158,14 +156,14 @@ Refusal QtHands::Do(shown::Dialog& dialog, const actions::EditCell& action) {
   const auto& cell = action.Cell;
   if (auto refusal = Do(dialog, cell)) return refusal;
   if (auto refusal = Do(dialog, actions::DoubleClick{cell.Grid})) return refusal;
-  const auto* grid = Reachable<shown::Grid>(dialog, cell.Grid);
-  if (grid == nullptr || !grid->Editing()) return "the dialog does not let this cell be edited";
+  const auto* grid = Reachable(dialog, cell.Grid);
+  if (grid == nullptr || !grid->AsTable()->Editing()) return "the dialog does not let this cell be edited";
   SendKey(window_->KeyTarget(), {Qt::Key_A, Qt::ControlModifier, {}});
   auto typed = orlin::KeysOf(action.Text);
   if (typed.empty()) typed.push_back(Key::Named(keys::Backspace));
   typed.push_back(Key::Named(keys::Enter));
   for (const auto& key : typed) {
-    if (!grid->Editing()) break;
+    if (!grid->AsTable()->Editing()) break;
     Press(key);
   }
   return Done();
@@ -200,7 +198,7 @@ bool QtHands::Focus(const shown::Control& control) {
 
 void QtHands::Press(const Key& key) { SendKey(window_->KeyTarget(), PressOf(key)); }
 
-void QtHands::PickFromDropDown(const shown::ComboBox& box, int row) {
+void QtHands::PickFromDropDown(const shown::Control& box, int row) {
   auto& list = dynamic_cast<QComboBox&>(*window_->ViewOf(box).Widget());
   QStyleOptionComboBox option;
   option.initFrom(&list);
@@ -224,9 +222,9 @@ void QtHands::PressRow(const shown::Control& list, int row) {
   ::orlin::Click(*rows.viewport(), rows.visualRect(index).center());
 }
 
-void QtHands::PressCell(const shown::Grid& grid, int row, int col, QEvent::Type type) {
+void QtHands::PressCell(const shown::Control& grid, int row, int col, QEvent::Type type) {
   auto& table = dynamic_cast<QAbstractItemView&>(*window_->ViewOf(grid).Widget());
-  const int titleRows = grid.Rows() - table.model()->rowCount();
+  const int titleRows = grid.AsTable()->Rows() - table.model()->rowCount();
   const auto index = table.model()->index(row - titleRows, col);
   table.scrollTo(index);
   SendMouse(*table.viewport(), type, table.visualRect(index).center());

@@ -33,9 +33,9 @@ class QtHands final : public OperatorHands {
   [[nodiscard]] Refusal Directly(shown::Dialog& dialog, const Operation& action);
   [[nodiscard]] bool Focus(const shown::Control& control);
   void Press(const Key& key);
-  void PickFromDropDown(const shown::ComboBox& box, int row);
+  void PickFromDropDown(const shown::Control& box, int row);
   void PressRow(const shown::Control& list, int row);
-  void PressCell(const shown::Grid& grid, int row, int col, QEvent::Type type);
+  void PressCell(const shown::Control& grid, int row, int col, QEvent::Type type);
 
   DirectHands direct_;
   DialogWindow* window_ = nullptr;

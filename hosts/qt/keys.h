@@ -4,7 +4,7 @@
 #include <QString>
 #include <vector>
 
-#include "OrlinCustomDialogs/keys.h"
+#include "OrlinCustomDialogs/host/keys.h"
 
 namespace orlin {
 

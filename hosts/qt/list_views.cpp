@@ -68,11 +68,13 @@ class DropDown final : public QComboBox {
   RowTexts texts_;
 };
 
-class ComboBoxView final : public ViewOf<shown::ComboBox> {
+class ComboBoxView final : public ViewOf<shown::RowList> {
  public:
-  ComboBoxView(shown::ComboBox& box, Desk& desk, QWidget* parent)
-      : ViewOf(box, desk), list_(new DropDown(parent, [this] { At().Do([this] { return Its().Focus(); }); })) {
-    if (box.HasEditField()) AddField();
+  ComboBoxView(shown::Control& box, Desk& desk, QWidget* parent)
+      : ViewOf(box, *box.AsRowList(), desk),
+        list_(new DropDown(parent, [this] { At().Do([this] { return Control().Focus(); }); })),
+        text_(*box.AsTextField()) {
+    if (text_.HasEditField()) AddField();
     QObject::connect(list_, &QComboBox::activated, list_,
                      [this](int row) { At().Do([&] { return Its().PickRow(row); }), Present(); });
   }
@@ -92,14 +94,14 @@ class ComboBoxView final : public ViewOf<shown::ComboBox> {
     if (list_->currentIndex() != Its().ListIndex()) list_->setCurrentIndex(Its().ListIndex());
     list_->updateGeometry();
     if (field_ == nullptr) return;
-    field_->setReadOnly(Its().Locked());
-    field_->ShowState({Its().TextControl::Text(), Its().SelStart(), Its().SelLength()});
+    field_->setReadOnly(text_.Locked());
+    field_->ShowState({text_.Text(), text_.SelStart(), text_.SelLength()});
   }
 
  private:
   void AddField() {
     field_ = new PassiveLine(list_);
-    field_->Actions = ActionsOn(Its(), At());
+    field_->Actions = ActionsOn(text_, Control().Form(), At());
     field_->RefuseStrayText();
     list_->setEditable(true);
     list_->setLineEdit(field_);
@@ -110,6 +112,7 @@ class ComboBoxView final : public ViewOf<shown::ComboBox> {
   }
 
   DropDown* list_;
+  shown::TextField& text_;
   PassiveLine* field_ = nullptr;
 };
 
@@ -165,18 +168,18 @@ class RowsView final : public QListView {
   bool hasChecks = false;
 };
 
-class ListBoxView final : public ViewOf<shown::ListBox> {
+class ListBoxView final : public ViewOf<shown::RowList> {
  public:
-  ListBoxView(shown::ListBox& list, Desk& desk, QWidget* parent)
-      : ViewOf(list, desk), rows_(new RowsView(parent, [this](int row) { Press(row); })) {
-    rows_->hasChecks = list.Choice() == shown::Choice::Checks;
-    rows_->setSelectionMode(list.Choice() == shown::Choice::Many ? QAbstractItemView::MultiSelection
+  ListBoxView(shown::Control& list, Desk& desk, QWidget* parent)
+      : ViewOf(list, *list.AsRowList(), desk), rows_(new RowsView(parent, [this](int row) { Press(row); })) {
+    rows_->hasChecks = Its().Choice() == shown::Choice::Checks;
+    rows_->setSelectionMode(Its().Choice() == shown::Choice::Many ? QAbstractItemView::MultiSelection
                                                                  : QAbstractItemView::SingleSelection);
   }
   [[nodiscard]] QWidget* Widget() const override { return rows_; }
 
   void Present() override {
-    rows_->Rows().Take(Its(), rows_->hasChecks ? &Its() : nullptr);
+    rows_->Rows().Take(Its());
     rows_->updateGeometry();
     const auto row = [&](int number) { return rows_->Rows().index(number); };
     const auto current = row(Its().ListIndex());
@@ -196,7 +199,7 @@ class ListBoxView final : public ViewOf<shown::ListBox> {
  private:
   void Press(int row) {
     At().Do([&]() -> Refusal {
-      if (row < 0) return Its().Focus();
+      if (row < 0) return Control().Focus();
       if (Its().Choice() == shown::Choice::One) return Its().PickRow(row);
       return Its().MarkRow(row, !Its().Selected(row));
     });
@@ -208,11 +211,11 @@ class ListBoxView final : public ViewOf<shown::ListBox> {
 }  // namespace
 
 std::unique_ptr<ControlView> MakeComboBoxView(shown::Control& control, Desk& desk, QWidget* parent) {
-  return MakeOne<ComboBoxView>(control, desk, parent);
+  return std::make_unique<ComboBoxView>(control, desk, parent);
 }
 
 std::unique_ptr<ControlView> MakeListBoxView(shown::Control& control, Desk& desk, QWidget* parent) {
-  return MakeOne<ListBoxView>(control, desk, parent);
+  return std::make_unique<ListBoxView>(control, desk, parent);
 }
 
 }  // namespace orlin

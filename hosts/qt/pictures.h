@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "OrlinCustomDialogs/dialog_host.h"
+#include "OrlinCustomDialogs/host/dialog_host.h"
 
 #include "qt/window_system.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OrlinCustomDialogs/dialog_host.h"
+#include "OrlinCustomDialogs/host/dialog_host.h"
 
 class QWidget;
 

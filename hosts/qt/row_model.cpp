@@ -56,16 +56,16 @@ int RowTexts::Width(const QFont& font) const {
   return width_ = WidthOfLongest(texts, QFontMetrics(font));
 }
 
-void RowModel::Take(const shown::RowList& list, const shown::ListBox* checks) {
+void RowModel::Take(const shown::RowList& list) {
   if (!texts_.AreThoseOf(list)) {
     beginResetModel();
     texts_.Take(list);
     checked_.assign(texts_.Rows().size(), false);
     endResetModel();
   }
-  hasChecks_ = checks != nullptr;
+  hasChecks_ = list.Choice() == shown::Choice::Checks;
   if (!hasChecks_ || rowCount() == 0) return;
-  for (int row = 0; row < rowCount(); ++row) checked_[static_cast<std::size_t>(row)] = checks->Selected(row);
+  for (int row = 0; row < rowCount(); ++row) checked_[static_cast<std::size_t>(row)] = list.Selected(row);
   emit dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "OrlinCustomDialogs/controls.h"
+#include "OrlinCustomDialogs/host/controls.h"
 
 namespace orlin {
 
@@ -30,8 +30,8 @@ class RowModel final : public QAbstractListModel {
  public:
   explicit RowModel(QObject* parent) : QAbstractListModel(parent) {}
 
-  /// Takes the rows over; `checks` shows which are chosen by check marks.
-  void Take(const shown::RowList& list, const shown::ListBox* checks);
+  /// Takes the rows over, with their check marks where they have some.
+  void Take(const shown::RowList& list);
 
   [[nodiscard]] int Width(const QFont& font) const { return texts_.Width(font); }
 

@@ -14,7 +14,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "OrlinCustomDialogs/keys.h"
+#include "OrlinCustomDialogs/host/keys.h"
 
 #include "qt/colours.h"
 #include "qt/texts.h"
@@ -44,10 +44,10 @@ bool IsMark(const shown::Control* control) {
          (control->Kind() == ControlKind::CheckBox || control->Kind() == ControlKind::OptionButton);
 }
 
-class LabelView final : public ViewOf<shown::Label> {
+class LabelView final : public ViewOf<shown::Control> {
  public:
-  LabelView(shown::Label& label, Desk& desk, QWidget* parent)
-      : ViewOf(label, desk), label_(new ClickedLabel(parent, [this] { Click(); })) {
+  LabelView(shown::Control& label, Desk& desk, QWidget* parent)
+      : ViewOf(label, label, desk), label_(new ClickedLabel(parent, [this] { Click(); })) {
     label_->setTextFormat(Qt::PlainText);
   }
   [[nodiscard]] QWidget* Widget() const override { return label_; }
@@ -76,9 +76,10 @@ class LabelView final : public ViewOf<shown::Label> {
   QLabel* label_;
 };
 
-class FrameView final : public ViewOf<shown::Frame> {
+class FrameView final : public ViewOf<shown::Control> {
  public:
-  FrameView(shown::Frame& frame, Desk& desk, QWidget* parent) : ViewOf(frame, desk), box_(new QGroupBox(parent)) {}
+  FrameView(shown::Control& frame, Desk& desk, QWidget* parent)
+      : ViewOf(frame, frame, desk), box_(new QGroupBox(parent)) {}
   [[nodiscard]] QWidget* Widget() const override { return box_; }
   void Present() override {
     box_->setTitle(Shown(Its().Caption()));
@@ -100,23 +101,23 @@ class PassiveButton final : public Button {
   void nextCheckState() override {}
 };
 
-template <class Shown, class Button>
-class PressView : public ViewOf<Shown> {
+template <class Button>
+class PressView : public ViewOf<shown::Control> {
  public:
-  PressView(Shown& control, Desk& desk, QWidget* parent)
-      : ViewOf<Shown>(control, desk), button_(new PassiveButton<Button>(parent)) {
+  PressView(shown::Control& control, Desk& desk, QWidget* parent)
+      : ViewOf(control, control, desk), button_(new PassiveButton<Button>(parent)) {
     button_->setFocusPolicy(Qt::TabFocus);
     QObject::connect(button_, &QAbstractButton::clicked, button_,
-                     [this] { this->At().Do([this] { return this->Its().Press(); }); });
+                     [this] { At().Do([this] { return Its().Press(); }); });
   }
   [[nodiscard]] QWidget* Widget() const override { return button_; }
   void Present() override {
-    const auto& caption = this->Its().Caption();
+    const auto& caption = Its().Caption();
     const auto text = Wrapped(orlin::Shown(caption), button_->fontMetrics(), CaptionWidth(*button_));
     button_->setText(text);
     // Of a caption in one line Qt makes the name itself.
     if (!caption.empty()) button_->setAccessibleName(text.contains(u'\n') ? SpokenCaption(caption) : QString());
-    if constexpr (!std::is_same_v<Shown, shown::Button>) button_->setChecked(this->Its().Value() != 0);
+    if (const auto* mark = Its().AsMark()) button_->setChecked(mark->IsOn());
   }
 
  protected:
@@ -126,20 +127,20 @@ class PressView : public ViewOf<Shown> {
   PassiveButton<Button>* button_;
 };
 
-class ButtonView final : public PressView<shown::Button, QPushButton> {
+class ButtonView final : public PressView<QPushButton> {
  public:
-  ButtonView(shown::Button& button, Desk& desk, QWidget* parent) : PressView(button, desk, parent) {
+  ButtonView(shown::Control& button, Desk& desk, QWidget* parent) : PressView(button, desk, parent) {
     Face().setAutoDefault(false);
     Face().setDefault(button.Form().DefaultButton() == &button);
   }
 };
 
-class CheckBoxView final : public PressView<shown::CheckBox, QCheckBox> {
+class CheckBoxView final : public PressView<QCheckBox> {
  public:
   using PressView::PressView;
 };
 
-class OptionView final : public PressView<shown::OptionButton, QRadioButton> {
+class OptionView final : public PressView<QRadioButton> {
  public:
   using PressView::PressView;
   void Present() override {
@@ -150,21 +151,22 @@ class OptionView final : public PressView<shown::OptionButton, QRadioButton> {
   }
 };
 
-class UpDownView final : public ViewOf<shown::UpDown> {
+class UpDownView final : public ViewOf<shown::Stepper> {
  public:
-  UpDownView(shown::UpDown& buttons, Desk& desk, QWidget* parent) : ViewOf(buttons, desk), pair_(new QWidget(parent)) {
+  UpDownView(shown::Control& buttons, Desk& desk, QWidget* parent)
+      : ViewOf(buttons, *buttons.AsStepper(), desk), pair_(new QWidget(parent)) {
     auto* layout = new QVBoxLayout(pair_);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     const int height = FieldHeight(*pair_);
-    Add(shown::UpDown::Direction::Up, Qt::UpArrow, QObject::tr("Up"), height - height / 2);
-    Add(shown::UpDown::Direction::Down, Qt::DownArrow, QObject::tr("Down"), height / 2);
+    Add(shown::Direction::Up, Qt::UpArrow, QObject::tr("Up"), height - height / 2);
+    Add(shown::Direction::Down, Qt::DownArrow, QObject::tr("Down"), height / 2);
   }
   [[nodiscard]] QWidget* Widget() const override { return pair_; }
   void Present() override {}
 
  private:
-  void Add(shown::UpDown::Direction direction, Qt::ArrowType arrow, const QString& name, int height) {
+  void Add(shown::Direction direction, Qt::ArrowType arrow, const QString& name, int height) {
     auto* button = new QToolButton(pair_);
     button->setArrowType(arrow);
     button->setFocusPolicy(Qt::NoFocus);
@@ -179,15 +181,15 @@ class UpDownView final : public ViewOf<shown::UpDown> {
   QWidget* pair_;
 };
 
-class StatusView final : public ViewOf<shown::StatusBar> {
+class StatusView final : public ViewOf<shown::Control> {
  public:
-  StatusView(shown::StatusBar& line, Desk& desk, QWidget* parent) : ViewOf(line, desk), line_(new QLabel(parent)) {
+  StatusView(shown::Control& line, Desk& desk, QWidget* parent) : ViewOf(line, line, desk), line_(new QLabel(parent)) {
     line_->setTextFormat(Qt::PlainText);
     line_->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
   }
   [[nodiscard]] QWidget* Widget() const override { return line_; }
   void Present() override {
-    line_->setText(Wrapped(Shown(Its().Text()), line_->fontMetrics(), CaptionWidth(*line_)));
+    line_->setText(Wrapped(Shown(Its().Caption()), line_->fontMetrics(), CaptionWidth(*line_)));
     // The window does not jump while the line comes and goes.
     line_->setMinimumSize(line_->minimumSize().expandedTo(line_->sizeHint()));
   }
@@ -196,9 +198,10 @@ class StatusView final : public ViewOf<shown::StatusBar> {
   QLabel* line_;
 };
 
-class TimerView final : public ViewOf<shown::Timer> {
+class TimerView final : public ViewOf<shown::Ticker> {
  public:
-  TimerView(shown::Timer& timer, Desk& desk, QWidget* parent) : ViewOf(timer, desk), clock_(new QTimer(parent)) {
+  TimerView(shown::Control& timer, Desk& desk, QWidget* parent)
+      : ViewOf(timer, *timer.AsTicker(), desk), clock_(new QTimer(parent)) {
     QObject::connect(clock_, &QTimer::timeout, parent, [this] { At().Do([this] { return Its().Tick(); }); });
   }
   [[nodiscard]] QWidget* Widget() const override { return nullptr; }
@@ -231,21 +234,21 @@ int CaptionWidth(const QWidget& widget) {
 std::unique_ptr<ControlView> MakeSimpleView(shown::Control& control, Desk& desk, QWidget* parent) {
   switch (control.Kind()) {
     case ControlKind::Label:
-      return MakeOne<LabelView>(control, desk, parent);
+      return std::make_unique<LabelView>(control, desk, parent);
     case ControlKind::Frame:
-      return MakeOne<FrameView>(control, desk, parent);
+      return std::make_unique<FrameView>(control, desk, parent);
     case ControlKind::Button:
-      return MakeOne<ButtonView>(control, desk, parent);
+      return std::make_unique<ButtonView>(control, desk, parent);
     case ControlKind::CheckBox:
-      return MakeOne<CheckBoxView>(control, desk, parent);
+      return std::make_unique<CheckBoxView>(control, desk, parent);
     case ControlKind::OptionButton:
-      return MakeOne<OptionView>(control, desk, parent);
+      return std::make_unique<OptionView>(control, desk, parent);
     case ControlKind::UpDown:
-      return MakeOne<UpDownView>(control, desk, parent);
+      return std::make_unique<UpDownView>(control, desk, parent);
     case ControlKind::StatusBar:
-      return MakeOne<StatusView>(control, desk, parent);
+      return std::make_unique<StatusView>(control, desk, parent);
     case ControlKind::Timer:
-      return MakeOne<TimerView>(control, desk, parent);
+      return std::make_unique<TimerView>(control, desk, parent);
     default:
       return nullptr;
   }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OrlinCustomDialogs/controls.h"
+#include "OrlinCustomDialogs/host/controls.h"
 
 #include "qt/control_view.h"
 #include "qt/passive_edit.h"
@@ -8,6 +8,6 @@
 namespace orlin {
 
 /// What a field of the screen does to a text box or to the edit field of a combo box.
-[[nodiscard]] EditActions ActionsOn(shown::TextControl& box, Desk& desk);
+[[nodiscard]] EditActions ActionsOn(shown::TextField& box, shown::Dialog& form, Desk& desk);
 
 }  // namespace orlin

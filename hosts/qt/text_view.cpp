@@ -45,10 +45,11 @@ void Fit(PassiveLines& field, int) {
 }
 
 template <class Field>
-class TextBoxView final : public ViewOf<shown::TextBox> {
+class TextBoxView final : public ViewOf<shown::TextField> {
  public:
-  TextBoxView(shown::TextBox& box, Desk& desk, QWidget* parent) : ViewOf(box, desk), field_(new Field(parent)) {
-    field_->Actions = ActionsOn(box, desk);
+  TextBoxView(shown::Control& box, Desk& desk, QWidget* parent)
+      : ViewOf(box, *box.AsTextField(), desk), field_(new Field(parent)) {
+    field_->Actions = ActionsOn(Its(), box.Form(), desk);
   }
   [[nodiscard]] QWidget* Widget() const override { return field_; }
   bool TakeWindowKey(const QKeyEvent& key) override { return field_->TakeEditingKey(key); }
@@ -58,7 +59,7 @@ class TextBoxView final : public ViewOf<shown::TextBox> {
       Fit(*field_, maxLength_);
     }
     if (field_->isReadOnly() != Its().Locked()) field_->setReadOnly(Its().Locked());
-    ShowGround(*field_, Its());
+    ShowGround(*field_, Control());
     field_->ShowState({Its().Text(), Its().SelStart(), Its().SelLength()});
   }
 
@@ -69,21 +70,20 @@ class TextBoxView final : public ViewOf<shown::TextBox> {
 
 }  // namespace
 
-EditActions ActionsOn(shown::TextControl& box, Desk& desk) {
+EditActions ActionsOn(shown::TextField& box, shown::Dialog& form, Desk& desk) {
   EditActions actions;
   actions.SetCaret = [&](int start, int length) { desk.Do([&] { return box.SetCaret(start, length); }); };
   actions.Paste = [&](const QString& text) { desk.Do([&] { return box.Paste(Given(text)); }); };
   actions.Type = [&](const QString& text) {
-    for (const auto& key : KeysTyping(text)) desk.Press(key, box.Form());
+    for (const auto& key : KeysTyping(text)) desk.Press(key, form);
   };
-  actions.Delete = [&] { desk.Press(Key::Named(keys::Delete), box.Form()); };
+  actions.Delete = [&] { desk.Press(Key::Named(keys::Delete), form); };
   return actions;
 }
 
 std::unique_ptr<ControlView> MakeTextBoxView(shown::Control& control, Desk& desk, QWidget* parent) {
-  const bool multiLine = dynamic_cast<const shown::TextBox&>(control).MultiLine();
-  if (multiLine) return MakeOne<TextBoxView<PassiveLines>>(control, desk, parent);
-  return MakeOne<TextBoxView<PassiveLine>>(control, desk, parent);
+  if (control.AsTextField()->MultiLine()) return std::make_unique<TextBoxView<PassiveLines>>(control, desk, parent);
+  return std::make_unique<TextBoxView<PassiveLine>>(control, desk, parent);
 }
 
 }  // namespace orlin

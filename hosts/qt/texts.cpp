@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include "OrlinCustomDialogs/keys.h"
+#include "OrlinCustomDialogs/host/keys.h"
 
 #include "script/text_literal.h"
 

@@ -6,12 +6,7 @@
 
 namespace orlin {
 
-/// What `MakeView` is made of. The control is of a kind that the view shows.
-template <class View>
-[[nodiscard]] std::unique_ptr<ControlView> MakeOne(shown::Control& control, Desk& desk, QWidget* parent) {
-  return std::make_unique<View>(dynamic_cast<typename View::Shows&>(control), desk, parent);
-}
-
+// What `MakeView` is made of. The control is of a kind that the view shows.
 [[nodiscard]] std::unique_ptr<ControlView> MakeSimpleView(shown::Control& control, Desk& desk, QWidget* parent);
 [[nodiscard]] std::unique_ptr<ControlView> MakeTextBoxView(shown::Control& control, Desk& desk, QWidget* parent);
 [[nodiscard]] std::unique_ptr<ControlView> MakeComboBoxView(shown::Control& control, Desk& desk, QWidget* parent);

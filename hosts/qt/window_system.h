@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "OrlinCustomDialogs/dialog_host.h"
+#include "OrlinCustomDialogs/host/dialog_host.h"
 
 #include "script/script.h"
 #include "script/trace.h"

@@ -9,24 +9,25 @@
 namespace orlin {
 namespace {
 
-/// Uses the control of that name, which has to be of a kind.
-template <class Kind, class Use>
-Refusal With(const shown::Dialog& dialog, const std::string& name, std::string_view kind, Use use) {
-  auto* control = dialog.Find(name);
-  if (control == nullptr) return "no control named " + name;
-  auto* wanted = dynamic_cast<Kind*>(control);
-  if (wanted != nullptr) return use(*wanted);
-  return name + " (" + std::string(KindName(control->Kind())) + ") is not " + std::string(kind);
-}
-
 template <class Use>
 Refusal WithAny(const shown::Dialog& dialog, const std::string& name, Use use) {
-  return With<shown::Control>(dialog, name, "a control", use);
+  auto* control = dialog.Find(name);
+  return control != nullptr ? use(*control) : "no control named " + name;
+}
+
+/// Uses what controls of some kinds have, by the function that tells it.
+template <class Part, class Use>
+Refusal With(const shown::Dialog& dialog, const std::string& name, Part* (shown::Control::*part)() noexcept,
+             std::string_view kind, Use use) {
+  return WithAny(dialog, name, [&](auto& control) -> Refusal {
+    if (auto* wanted = (control.*part)()) return use(*wanted);
+    return name + " (" + std::string(KindName(control.Kind())) + ") is not " + std::string(kind);
+  });
 }
 
 template <class Use>
 Refusal WithGrid(const shown::Dialog& dialog, const std::string& name, Use use) {
-  return With<shown::Grid>(dialog, name, "a grid", use);
+  return With<shown::Table>(dialog, name, &shown::Control::AsTable, "a grid", use);
 }
 
 /// Presses keys while the dialog is shown, each wherever the focus is by then; tells the first refusal.
@@ -56,11 +57,8 @@ std::vector<Key> KeysOf(std::u32string_view text) {
 }
 
 Refusal DirectHands::Do(shown::Dialog& dialog, const actions::Select& action) {
-  return With<shown::RowList>(dialog, action.Control, "a list", [&](auto& list) -> Refusal {
-    if (!action.On) return list.PickRow(action.Row);
-    auto* choices = dynamic_cast<shown::ListBox*>(&list);
-    if (choices == nullptr) return action.Control + " is a list of one choice: its rows are picked";
-    return choices->MarkRow(action.Row, *action.On);
+  return With<shown::RowList>(dialog, action.Control, &shown::Control::AsRowList, "a list", [&](auto& list) {
+    return action.On ? list.MarkRow(action.Row, *action.On) : list.PickRow(action.Row);
   });
 }
 
@@ -84,7 +82,7 @@ Refusal DirectHands::Do(shown::Dialog& dialog, const actions::KeyStroke& action)
 }
 
 Refusal DirectHands::Do(shown::Dialog& dialog, const actions::Caret& action) {
-  return With<shown::TextControl>(dialog, action.Control, "a text box",
+  return With<shown::TextField>(dialog, action.Control, &shown::Control::AsTextField, "a text box",
                                   [&](auto& box) { return box.SetCaret(action.Start, action.Length); });
 }
 
@@ -93,7 +91,7 @@ Refusal DirectHands::Do(shown::Dialog& dialog, const actions::FocusOn& action) {
 }
 
 Refusal DirectHands::Do(shown::Dialog& dialog, const actions::Step& action) {
-  return With<shown::UpDown>(dialog, action.Control, "an up-down", [&](auto& buttons) {
+  return With<shown::Stepper>(dialog, action.Control, &shown::Control::AsStepper, "an up-down", [&](auto& buttons) {
     Refusal refusal;
     for (int i = 0; i < action.Times && dialog.IsShown() && !refusal; ++i) refusal = buttons.Step(action.Direction);
     return refusal;
@@ -127,7 +125,7 @@ Refusal DirectHands::Do(shown::Dialog& dialog, const actions::EditCell& action) 
 }
 
 Refusal DirectHands::Do(shown::Dialog& dialog, const actions::Tick& action) {
-  return With<shown::Timer>(dialog, action.Timer, "a timer", [](auto& timer) { return timer.Tick(); });
+  return With<shown::Ticker>(dialog, action.Timer, &shown::Control::AsTicker, "a timer", [](auto& timer) { return timer.Tick(); });
 }
 
 Refusal DirectHands::Do(shown::Dialog& dialog, const actions::Close&) {

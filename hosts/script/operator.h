@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OrlinCustomDialogs/controls.h"
+#include "OrlinCustomDialogs/host/controls.h"
 
 #include "script/script.h"
 

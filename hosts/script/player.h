@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "OrlinCustomDialogs/dialog_host.h"
+#include "OrlinCustomDialogs/host/dialog_host.h"
 
 #include "script/operator.h"
 #include "script/script.h"

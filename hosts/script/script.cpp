@@ -6,7 +6,7 @@
 #include <limits>
 #include <utility>
 
-#include "OrlinCustomDialogs/dialog_host.h"
+#include "OrlinCustomDialogs/host/dialog_host.h"
 
 #include "script/text_literal.h"
 
@@ -178,7 +178,7 @@ constexpr std::array<Syntax, 14> kActions = {{
     {"step", "a control, a direction and how often: step C up|down [N]",
      [](WordReader& words) -> Operation {
        auto control = words.Name();
-       const auto direction = words.OneOf("up", "down") ? shown::UpDown::Direction::Up : shown::UpDown::Direction::Down;
+       const auto direction = words.OneOf("up", "down") ? shown::Direction::Up : shown::Direction::Down;
        return actions::Step{std::move(control), direction, words.AtEnd() ? 1 : words.Number(1, 65535)};
      }},
     {"cell", "a grid, a row and a column: cell G ROW COL",

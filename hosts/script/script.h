@@ -7,8 +7,8 @@
 #include <variant>
 #include <vector>
 
-#include "OrlinCustomDialogs/controls.h"
-#include "OrlinCustomDialogs/keys.h"
+#include "OrlinCustomDialogs/host/controls.h"
+#include "OrlinCustomDialogs/host/keys.h"
 
 namespace orlin {
 
@@ -51,7 +51,7 @@ struct FocusOn {
 
 struct Step {
   std::string Control;
-  shown::UpDown::Direction Direction = shown::UpDown::Direction::Up;
+  shown::Direction Direction = shown::Direction::Up;
   int Times = 1;
 };
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "OrlinCustomDialogs/dialog_host.h"
+#include "OrlinCustomDialogs/host/dialog_host.h"
 
 #include "script/operator.h"
 #include "script/player.h"

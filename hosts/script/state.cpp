@@ -28,8 +28,8 @@ ordered_json Rows(int count, Make make) {
   return rows;
 }
 
-void Add(ordered_json& state, const shown::TextControl& box, const std::string& text) {
-  state["text"] = text;
+void Add(ordered_json& state, const shown::TextField& box) {
+  state["text"] = box.Text();
   state["locked"] = box.Locked();
   state["maxLength"] = box.MaxLength();
   state["selStart"] = box.SelStart();
@@ -40,21 +40,17 @@ void Add(ordered_json& state, const shown::RowList& list) {
   state["listIndex"] = list.ListIndex();
   state["list"] = Rows(list.ListCount(), [&](int row) { return list.List(row); });
   state["itemData"] = Rows(list.ListCount(), [&](int row) { return list.ItemData(row); });
-}
-
-void Add(ordered_json& state, const shown::ListBox& list) {
-  Add(state, static_cast<const shown::RowList&>(list));
   if (list.Choice() == shown::Choice::One) return;
   state["selected"] = Rows(list.ListCount(), [&](int row) { return list.Selected(row); });
 }
 
-void Add(ordered_json& state, const shown::UpDown& buttons) {
+void Add(ordered_json& state, const shown::Stepper& buttons) {
   state["value"] = buttons.Value();
   state["min"] = buttons.Min();
   state["max"] = buttons.Max();
 }
 
-void Add(ordered_json& state, const shown::Grid& grid) {
+void Add(ordered_json& state, const shown::Table& grid) {
   const auto cells = [&](auto field) {
     return Rows(grid.Rows(),
                 [&](int row) { return Rows(grid.Cols(), [&](int col) { return field(grid.CellAt(row, col)); }); });
@@ -69,45 +65,16 @@ void Add(ordered_json& state, const shown::Grid& grid) {
   state["editing"] = grid.Editing();
 }
 
-void AddOwn(ordered_json& state, const shown::Control& control) {
-  switch (control.Kind()) {
-    case ControlKind::Label:
-    case ControlKind::Frame:
-    case ControlKind::Button:
-      break;
-    case ControlKind::CheckBox:
-      state["value"] = dynamic_cast<const shown::CheckBox&>(control).Value();
-      break;
-    case ControlKind::OptionButton:
-      state["value"] = dynamic_cast<const shown::OptionButton&>(control).Value();
-      break;
-    case ControlKind::TextBox: {
-      const auto& box = dynamic_cast<const shown::TextBox&>(control);
-      Add(state, box, box.Text());
-      break;
-    }
-    case ControlKind::ComboBox: {
-      const auto& box = dynamic_cast<const shown::ComboBox&>(control);
-      Add(state, box, box.Text());
-      Add(state, static_cast<const shown::RowList&>(box));
-      break;
-    }
-    case ControlKind::ListBox:
-      Add(state, dynamic_cast<const shown::ListBox&>(control));
-      break;
-    case ControlKind::UpDown:
-      Add(state, dynamic_cast<const shown::UpDown&>(control));
-      break;
-    case ControlKind::StatusBar:
-      state["text"] = dynamic_cast<const shown::StatusBar&>(control).Text();
-      break;
-    case ControlKind::Timer:
-      state["interval"] = dynamic_cast<const shown::Timer&>(control).Interval();
-      break;
-    case ControlKind::Grid:
-      Add(state, dynamic_cast<const shown::Grid&>(control));
-      break;
-  }
+void Add(ordered_json& state, const shown::Control& control) {
+  if (HasCaption(control.Kind())) state["caption"] = control.Caption();
+  if (control.Kind() == ControlKind::StatusBar) state["text"] = control.Caption();
+  if (control.Kind() == ControlKind::CheckBox) state["value"] = control.AsMark()->IsOn() ? 1 : 0;
+  if (control.Kind() == ControlKind::OptionButton) state["value"] = control.AsMark()->IsOn();
+  if (const auto* box = control.AsTextField()) Add(state, *box);
+  if (const auto* list = control.AsRowList()) Add(state, *list);
+  if (const auto* buttons = control.AsStepper()) Add(state, *buttons);
+  if (const auto* timer = control.AsTicker()) state["interval"] = timer->Interval();
+  if (const auto* grid = control.AsTable()) Add(state, *grid);
 }
 
 }  // namespace
@@ -120,8 +87,7 @@ ordered_json StateOf(const shown::Control& control) {
   state["left"] = control.Left();
   state["top"] = control.Top();
   state["width"] = control.Width();
-  if (HasCaption(control.Kind())) state["caption"] = control.Caption();
-  AddOwn(state, control);
+  Add(state, control);
   return state;
 }
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "OrlinCustomDialogs/dialog_host.h"
+#include "OrlinCustomDialogs/host/dialog_host.h"
 #include "OrlinCustomDialogs/value.h"
 
 namespace orlin {

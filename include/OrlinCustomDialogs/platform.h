@@ -5,7 +5,7 @@
 #include <string>
 
 #include "OrlinCustomDialogs/components.h"
-#include "OrlinCustomDialogs/dialog_host.h"
+#include "OrlinCustomDialogs/host/dialog_host.h"
 
 namespace [[using gnu: visibility("default")]] orlin {
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "OrlinCustomDialogs/components.h"
-#include "OrlinCustomDialogs/dialog_host.h"
+#include "OrlinCustomDialogs/host/dialog_host.h"
 
 #include "faultlog/fault_file.h"
 

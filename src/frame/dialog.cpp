@@ -9,9 +9,13 @@
 namespace orlin {
 
 Dialog::Dialog(std::string_view name, const CaptionSource& title, const orlin::Life& life, SizeInTwips size)
-    : shown::Dialog(std::string(name), CurrentHost()), titleNumber_(title.Number), life_(life) {
-  StartCaption(title.Text);
-  SetSize(size.Width, size.Height);
+    : name_(name),
+      host_(CurrentHost()),
+      caption_(title.Text),
+      titleNumber_(title.Number),
+      life_(life),
+      width_(size.Width),
+      height_(size.Height) {
   // A failure in it was reported there; the dialog opens all the same.
   if (life.InitialisesServices) static_cast<void>(InitApplicationVariables());
 }
@@ -25,15 +29,36 @@ void Dialog::Touched() {
 
 void Dialog::LoadCaptions() {
   if (titleNumber_ != 0) SkipFailure([this] { SetCaption(GetLocalText(titleNumber_)); });
-  for (auto* control : Controls()) {
-    if (control->captionNumber_ == 0) continue;
-    SkipFailure([control] { control->SetCaption(GetLocalText(control->captionNumber_)); });
+  for (auto* shown : controls_) {
+    auto& control = Own(*shown);
+    if (control.captionNumber_ == 0) continue;
+    SkipFailure([&] { control.SetCaption(GetLocalText(control.captionNumber_)); });
   }
 }
 
 void Dialog::Centre() {
-  const auto screen = Host().Screen();
-  MoveTo((screen.Width - Width()) / 2, (screen.Height - Height()) / 2);
+  const auto screen = host_.Screen();
+  left_ = (screen.Width - width_) / 2;
+  top_ = (screen.Height - height_) / 2;
+  ++revision_;
+}
+
+void Dialog::SetCaption(std::string caption) {
+  Touched();
+  caption_ = std::move(caption);
+  ++revision_;
+}
+
+void Dialog::SetWidth(int width) {
+  Touched();
+  width_ = width;
+  ++revision_;
+}
+
+void Dialog::SetHeight(int height) {
+  Touched();
+  height_ = height;
+  ++revision_;
 }
 
 const orlin::SecurityLevels& Dialog::SecurityLevels() const {
@@ -43,9 +68,9 @@ const orlin::SecurityLevels& Dialog::SecurityLevels() const {
 
 void Dialog::ShowModal() {
   Touched();
-  BeginShow();
-  Host().ShowModal(*this);
-  EndShow();
+  shown_ = true;
+  host_.ShowModal(*this);
+  shown_ = false;
 }
 
 void Dialog::HideWith(orlin::ExitCode code) {
@@ -56,11 +81,11 @@ void Dialog::HideWith(orlin::ExitCode code) {
 void Dialog::Unload() noexcept { loaded_ = false; }
 
 int Dialog::ShowMessage(std::string text, int flags) {
-  return Host().ShowMessage({std::move(text), flags, std::nullopt});
+  return host_.ShowMessage({std::move(text), flags, std::nullopt});
 }
 
 int Dialog::ShowMessage(std::string text, int flags, std::string title) {
-  return Host().ShowMessage({std::move(text), flags, std::move(title)});
+  return host_.ShowMessage({std::move(text), flags, std::move(title)});
 }
 
 OKButton::OKButton(Dialog& form, const CaptionSource& caption, std::string_view name) : Button(form, name, caption) {

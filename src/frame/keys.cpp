@@ -1,4 +1,4 @@
-#include "OrlinCustomDialogs/keys.h"
+#include "OrlinCustomDialogs/host/keys.h"
 
 #include "frame/utf8.h"
 

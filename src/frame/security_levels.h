@@ -7,7 +7,7 @@
 
 #include "OrlinCustomDialogs/security_levels.h"
 
-#include "frame/controls.h"
+#include "frame/controls/control.h"
 
 namespace orlin {
 

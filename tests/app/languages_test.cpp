@@ -80,7 +80,7 @@ class Explorer : public DialogHost {
  private:
   void Explore(shown::Control& control) {
     static_cast<void>(control.Focus());
-    if (const auto* rows = dynamic_cast<shown::RowList*>(&control)) {
+    if (const auto* rows = control.AsRowList()) {
       for (int row = 0; row < rows->ListCount(); ++row) Pick(control, row);
     } else if (control.Kind() == ControlKind::OptionButton || control.Kind() == ControlKind::CheckBox) {
       static_cast<void>(control.Press());
@@ -89,7 +89,7 @@ class Explorer : public DialogHost {
   }
 
   void Pick(shown::Control& control, int row) {
-    if (dynamic_cast<shown::RowList&>(control).PickRow(row)) return;
+    if (control.AsRowList()->PickRow(row)) return;
     Look(control.Form());
   }
 
@@ -98,7 +98,7 @@ class Explorer : public DialogHost {
     std::map<char32_t, const shown::Control*> owners;
     for (const auto* control : dialog.Controls()) {
       ExpectFilled(control->Caption());
-      if (const auto* rows = dynamic_cast<const shown::RowList*>(control)) {
+      if (const auto* rows = control->AsRowList()) {
         for (int row = 0; row < rows->ListCount(); ++row) ExpectFilled(rows->List(row));
       }
       const auto key = AccessKey(control->Caption());
@@ -113,8 +113,8 @@ class Explorer : public DialogHost {
 
   static bool LeadsSomewhere(const shown::Control& control) {
     if (!control.IsShown()) return false;
-    const auto* label = dynamic_cast<const shown::Label*>(&control);
-    return label == nullptr ? control.WithinReach() : label->Names() != nullptr && label->Names()->WithinReach();
+    if (control.Kind() != ControlKind::Label) return control.WithinReach();
+    return control.Names() != nullptr && control.Names()->WithinReach();
   }
 
   std::string language_;

@@ -1,4 +1,4 @@
-#include "frame/controls.h"
+#include "frame/all_controls.h"
 
 #include <tuple>
 
@@ -47,7 +47,7 @@ class ControlsTest : public FormTest {
 };
 
 TEST_F(ControlsTest, FireTheirEventsForCodeAndForTheOperator) {
-  using Direction = shown::UpDown::Direction;
+  using Direction = shown::Direction;
   // One after another, each from where the one before left the controls.
   const std::pair<std::function<void()>, Log> steps[] = {
       {[&] { chkOn.SetValue(0), chkOn.SetValue(1); }, {"chkOn_Click"}},
@@ -104,7 +104,7 @@ TEST_F(ControlsTest, ListsKeepRowsNumbersAndSelection) {
 }
 
 TEST_F(ControlsTest, UpDownTakesUpTheNumberInItsBox) {
-  using Direction = shown::UpDown::Direction;
+  using Direction = shown::Direction;
   const struct {
     const char* Text;
     Direction To;
@@ -167,7 +167,7 @@ TEST_F(ControlsTest, TypingPicksTheRowThatBeginsSo) {
         list->Focus(), Form.PauseTyping();
         for (const auto c : text) c == U'|' ? Form.PauseTyping() : static_cast<void>(Type(c));
       });
-      EXPECT_EQ(dynamic_cast<shown::RowList&>(*list).ListIndex(), to) << list->Name() << from;
+      EXPECT_EQ(list->AsRowList()->ListIndex(), to) << list->Name() << from;
       EXPECT_EQ(log.size(), clicks) << list->Name();
     }
   }

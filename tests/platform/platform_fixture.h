@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-#include "OrlinCustomDialogs/dialog_host.h"
+#include "OrlinCustomDialogs/host/dialog_host.h"
 
 #include "files/text_file.h"
 

@@ -247,8 +247,8 @@ TEST(Passcodes, FailureBeforeTheShowTouchesNothing) {
 
 class PasscodeFaults : public BrokenCatalogueTest {
  protected:
-  std::int32_t Display(const std::function<void(shown::Dialog&, shown::Grid&)>& operate) {
-    Host->Operate = [&](shown::Dialog& dialog) { operate(dialog, dynamic_cast<shown::Grid&>(*dialog.Find("fa"))); };
+  std::int32_t Display(const std::function<void(shown::Dialog&, shown::Table&)>& operate) {
+    Host->Operate = [&](shown::Dialog& dialog) { operate(dialog, *dialog.Find("fa")->AsTable()); };
     Value codes = Users({"12", "123x"});
     Value inTrouble = Users({"12"});
     std::int16_t status = 0;
@@ -258,7 +258,7 @@ class PasscodeFaults : public BrokenCatalogueTest {
 
 TEST_F(PasscodeFaults, FailureInANotificationIsShownAndTheEditEnds) {
   Host->Answers = {answers::Ok};
-  const auto operate = [this](shown::Dialog& dialog, shown::Grid& fa) {
+  const auto operate = [this](shown::Dialog& dialog, shown::Table& fa) {
     FailsFor = 10716;
     fa.MakeCurrent(1, 1), fa.DoubleClick();
     dialog.PressKey(Key::Typing(U'1')), dialog.PressKey(Key::Named(keys::Enter));
@@ -273,7 +273,7 @@ TEST_F(PasscodeFaults, FailureInANotificationIsShownAndTheEditEnds) {
 
 TEST_F(PasscodeFaults, PasscodeThatDoesNotEndInADigitIsReportedAndConflictsWithNone) {
   ASSERT_EQ(InitApplicationVariables(), 0);
-  const auto operate = [](shown::Dialog& dialog, shown::Grid& fa) {
+  const auto operate = [](shown::Dialog& dialog, shown::Table& fa) {
     fa.MakeCurrent(1, 1), fa.DoubleClick(), fa.SetEditorCaret(0, 2), fa.PasteIntoEditor("1239");
     dialog.PressKey(Key::Named(keys::Enter));
     EXPECT_TRUE(dialog.Find("cmdOK")->Enabled());

@@ -24,7 +24,7 @@ TEST_F(SensorSensitivityTest, EachKindUsesItsList) {
       {1, Integer(0), -1, 0}, {1, Integer(4), -1, 4}, {1, Integer(0), 1, 4}, {1, Integer(4), 0, 0}, {2, "5", 13, 13}};
   for (auto [kind, value, picked, after] : cases) {
     Host->Operate = [&, row = picked, first = kind == 1](auto& dialog) {
-      auto& list = dynamic_cast<shown::ComboBox&>(*dialog.Find(first ? "cmbType1" : "cmbType2"));
+      auto& list = *dialog.Find(first ? "cmbType1" : "cmbType2")->AsRowList();
       EXPECT_EQ(list.ListCount(), first ? 2 : 14);
       EXPECT_EQ(list.List(first ? 0 : 13) == Text(1915), !first);
       EXPECT_FALSE(dialog.Find(first ? "cmbType2" : "cmbType1")->Enabled());

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace [[using gnu: visibility("default")]] orlin {
+namespace orlin {
 
 /// A text with a caret and a marked selection, as it stands in a text box, in the edit field of a combo box and in
 /// the editor of a grid cell. All positions and lengths count characters, not bytes. Bytes that are no UTF-8

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "OrlinCustomDialogs/controls.h"
+#include "OrlinCustomDialogs/host/controls.h"
 #include "OrlinCustomDialogs/failure.h"
 
 namespace [[using gnu: visibility("default")]] orlin {

@@ -1,12 +1,16 @@
+#include "frame/controls/grid.h"
+
 #include <algorithm>
 
-#include "OrlinCustomDialogs/controls.h"
+#include "OrlinCustomDialogs/failure.h"
 
 #include "frame/conversions.h"
 #include "frame/utf8.h"
 
-namespace orlin::shown {
+namespace orlin {
 namespace {
+
+using shown::Cell;
 
 std::vector<std::string> SplitAtTabs(std::string_view text) {
   std::vector<std::string> parts;
@@ -24,13 +28,13 @@ bool Grid::CanBeCurrent(int row, int col) const noexcept {
   return row >= fixedRows_ && row < rows_ && col >= fixedCols_ && col < cols_;
 }
 
-const Grid::Cell& Grid::CellAt(int row, int col) const noexcept {
+const Cell& Grid::CellAt(int row, int col) const noexcept {
   static const Cell outside;
   const bool inside = row >= 0 && row < rows_ && col >= 0 && col < cols_;
   return inside ? cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)] : outside;
 }
 
-Grid::Cell* Grid::FindCell(int row, int col) noexcept {
+Cell* Grid::FindCell(int row, int col) noexcept {
   const bool inside = row >= 0 && row < rows_ && col >= 0 && col < cols_;
   return inside ? &cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)] : nullptr;
 }
@@ -55,14 +59,15 @@ void Grid::KeepCurrentInside() noexcept {
   col_ = any ? col : -1;
 }
 
-void Grid::StartSize(int rows, int cols, int fixedRows, int fixedCols) {
-  rows_ = std::max(rows, 0);
-  cols_ = std::max(cols, 0);
-  fixedRows_ = fixedRows;
-  fixedCols_ = fixedCols;
-  cells_.assign(static_cast<std::size_t>(rows_), std::vector<Cell>(static_cast<std::size_t>(cols_)));
-  colWidths_.assign(static_cast<std::size_t>(cols_), 0);
-  colAlignments_.assign(static_cast<std::size_t>(cols_), 0);
+Grid::Grid(const Container& in, std::string_view name, const GridState& state)
+    : Control(ControlKind::Grid, in, name, {}, state.Common),
+      rows_(std::max(state.Rows, 0)),
+      cols_(std::max(state.Cols, 0)),
+      fixedRows_(state.FixedRows),
+      fixedCols_(state.FixedCols),
+      cells_(static_cast<std::size_t>(rows_), std::vector<Cell>(static_cast<std::size_t>(cols_))),
+      colWidths_(static_cast<std::size_t>(cols_)),
+      colAlignments_(static_cast<std::size_t>(cols_)) {
   KeepCurrentInside();
 }
 
@@ -286,10 +291,10 @@ void Grid::TakeNavigationKey(const Key& key) {
       ++row;
       break;
     case keys::PageUp:
-      row -= kRowsOfAPage;
+      row -= shown::kRowsOfAPage;
       break;
     case keys::PageDown:
-      row += kRowsOfAPage;
+      row += shown::kRowsOfAPage;
       break;
     case keys::Left:
       --col;
@@ -311,4 +316,4 @@ void Grid::TakeNavigationKey(const Key& key) {
   if (CanBeCurrent(row, col)) MakeCurrent(row, col);
 }
 
-}  // namespace orlin::shown
+}  // namespace orlin

@@ -1,67 +1,41 @@
 #include <algorithm>
 #include <utility>
 
-#include "OrlinCustomDialogs/controls.h"
-#include "OrlinCustomDialogs/dialog_host.h"
+#include "OrlinCustomDialogs/failure.h"
 
-// The operator's side of a dialog: focus, keys, close box.
+#include "frame/dialog.h"
 
-namespace orlin::shown {
+// The operator's side of a dialog: focus and keys.
 
-bool Dialog::TakesTab(const Control* control) {
-  return control->TakesFocus() && control->WithinReach() && control->IsTabStop();
+namespace orlin {
+
+bool Dialog::TakesTab(const Control& control) {
+  return control.TakesFocus() && control.WithinReach() && control.IsTabStop();
 }
 
-Control* Dialog::Find(std::string_view name) const noexcept {
+shown::Control* Dialog::Find(std::string_view name) const noexcept {
   const auto found =
       std::find_if(controls_.begin(), controls_.end(), [&](const auto* control) { return control->Name() == name; });
   return found == controls_.end() ? nullptr : *found;
 }
 
-void Dialog::SetCaption(std::string caption) {
-  Touched();
-  caption_ = std::move(caption);
-  ++revision_;
-}
-
-void Dialog::SetWidth(int width) {
-  Touched();
-  SetSize(width, height_);
-}
-
-void Dialog::SetHeight(int height) {
-  Touched();
-  SetSize(width_, height);
-}
-
-void Dialog::MoveTo(int left, int top) {
-  left_ = left;
-  top_ = top;
-  ++revision_;
-}
-
-void Dialog::SetSize(int width, int height) {
-  width_ = width;
-  height_ = height;
-  ++revision_;
-}
-
-void Dialog::Guarded(std::string_view owner, std::string_view event, const std::function<void()>& handler) {
+void Dialog::Guard(std::string_view owner, std::string_view event, const std::function<void()>& handler) const {
   try {
     handler();
   } catch (const Failure& failure) {
     // Handlers of an array of controls are one routine, named without the index.
     std::string name(owner.substr(0, owner.find('(')));
     name.append("_").append(event);
-    host_->HandlerFailed(*this, name, failure);
+    host_.HandlerFailed(*this, name, failure);
   }
 }
 
 void Dialog::Activate() {
-  if (OnActivate) Guarded("Form", "Activate", [this] { OnActivate(); });
+  if (OnActivate) Guard("Form", "Activate", [this] { OnActivate(); });
   if (!shown_ || focus_ != nullptr) return;
-  const auto first = std::find_if(controls_.begin(), controls_.end(), TakesTab);
-  if (first != controls_.end()) MoveFocus(*first, By::Operator);
+  for (auto* control : controls_) {
+    if (TakesTab(Own(*control))) return MoveFocus(&Own(*control), By::Operator);
+  }
 }
 
 void Dialog::MoveFocus(Control* to, By by) {
@@ -85,8 +59,8 @@ void Dialog::MoveFocusByTab(bool backwards) {
   auto place = at != controls_.end() ? static_cast<std::size_t>(at - controls_.begin()) : backwards ? 0 : count - 1;
   for (std::size_t steps = 0; steps < count; ++steps) {
     place = (place + (backwards ? count - 1 : 1)) % count;
-    auto* const next = controls_[place];
-    if (!TakesTab(next)) continue;
+    auto* const next = &Own(*controls_[place]);
+    if (!TakesTab(*next)) continue;
     if (next == focus_) return;
     MoveFocus(next, By::Operator);
     // Handlers may have sent the focus elsewhere.
@@ -95,19 +69,21 @@ void Dialog::MoveFocusByTab(bool backwards) {
   }
 }
 
-void Dialog::PressButton(Button* button) {
+void Dialog::PressButton(Button* button) const {
   if (button != nullptr && button->WithinReach()) button->Raise(By::Operator, button->Click, "Click");
 }
 
 Refusal Dialog::PressAccessKey(char32_t letter) {
   for (auto* control : controls_) {
-    if (!control->WithinReach() || AccessKey(control->Caption()) != letter) continue;
-    if (const auto* label = dynamic_cast<const Label*>(control)) {
-      auto* named = label->Names();
+    // The text of a status line marks nothing.
+    const bool marks = control->Kind() != ControlKind::StatusBar && AccessKey(control->Caption()) == letter;
+    if (!marks || !control->WithinReach()) continue;
+    if (control->Kind() == ControlKind::Label) {
+      auto* named = control->Names();
       if (named != nullptr && named->WithinReach()) return named->Focus();
-    } else if (const auto* frame = dynamic_cast<const Frame*>(control)) {
+    } else if (control->Kind() == ControlKind::Frame) {
       const auto inside = std::find_if(controls_.begin(), controls_.end(), [&](const auto* candidate) {
-        return candidate->Parent() == frame && candidate->TakesFocus() && candidate->WithinReach();
+        return candidate->Parent() == control && candidate->TakesFocus() && candidate->WithinReach();
       });
       if (inside != controls_.end()) return (*inside)->Focus();
     } else {
@@ -132,11 +108,9 @@ Refusal Dialog::PressKey(const Key& key) {
   if (target == nullptr) return "no control within reach has the focus";
 
   Key passed = key;
-  if (KeyDown) Guarded("Form", "KeyDown", [&] { KeyDown(passed.Code); });
+  if (KeyDown) Guard("Form", "KeyDown", [&] { KeyDown(passed.Code); });
   if (passed.Code != 0 && shown_ && focus_ == target) target->TakeKey(passed);
   return {};
 }
 
-void Dialog::Close() { shown_ = false; }
-
-}  // namespace orlin::shown
+}  // namespace orlin

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "frame/controls/row_list.h"
+
+namespace orlin {
+
+struct ListState {
+  shown::Choice Choice = shown::Choice::One;
+  ControlState Common = {};
+};
+
+class ListBox : public Control, public RowList {
+ public:
+  ListBox(const Container& in, std::string_view name, const ListState& state = {})
+      : Control(ControlKind::ListBox, in, name, {}, state.Common),
+        RowList(static_cast<Control&>(*this)),
+        choice_(state.Choice) {}
+
+  [[nodiscard]] shown::RowList* AsRowList() noexcept override { return this; }
+  [[nodiscard]] shown::Choice Choice() const noexcept override { return choice_; }
+
+  /// `Failure` 380 where there is no such row.
+  void SetSelected(int row, bool on);
+
+  Event<> Click;
+  Event<int> ItemCheck;
+
+ private:
+  void TakeKey(const Key& key) override;
+  void Select(int row, By by) override;
+  void Chosen(int row, By by) override;
+
+  shown::Choice choice_;
+};
+
+}  // namespace orlin
