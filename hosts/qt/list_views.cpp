@@ -174,7 +174,7 @@ class ListBoxView final : public ViewOf<shown::RowList> {
       : ViewOf(list, *list.AsRowList(), desk), rows_(new RowsView(parent, [this](int row) { Press(row); })) {
     rows_->hasChecks = Its().Choice() == shown::Choice::Checks;
     rows_->setSelectionMode(Its().Choice() == shown::Choice::Many ? QAbstractItemView::MultiSelection
-                                                                 : QAbstractItemView::SingleSelection);
+                                                                  : QAbstractItemView::SingleSelection);
   }
   [[nodiscard]] QWidget* Widget() const override { return rows_; }
 

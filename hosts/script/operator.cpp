@@ -83,7 +83,7 @@ Refusal DirectHands::Do(shown::Dialog& dialog, const actions::KeyStroke& action)
 
 Refusal DirectHands::Do(shown::Dialog& dialog, const actions::Caret& action) {
   return With<shown::TextField>(dialog, action.Control, &shown::Control::AsTextField, "a text box",
-                                  [&](auto& box) { return box.SetCaret(action.Start, action.Length); });
+                                [&](auto& box) { return box.SetCaret(action.Start, action.Length); });
 }
 
 Refusal DirectHands::Do(shown::Dialog& dialog, const actions::FocusOn& action) {
@@ -125,7 +125,8 @@ Refusal DirectHands::Do(shown::Dialog& dialog, const actions::EditCell& action) 
 }
 
 Refusal DirectHands::Do(shown::Dialog& dialog, const actions::Tick& action) {
-  return With<shown::Ticker>(dialog, action.Timer, &shown::Control::AsTicker, "a timer", [](auto& timer) { return timer.Tick(); });
+  return With<shown::Ticker>(dialog, action.Timer, &shown::Control::AsTicker, "a timer",
+                             [](auto& timer) { return timer.Tick(); });
 }
 
 Refusal DirectHands::Do(shown::Dialog& dialog, const actions::Close&) {

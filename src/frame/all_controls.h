@@ -1,7 +1,7 @@
 #pragma once
 
-// The controls as the logic of a dialog declares and uses them. A dialog declares its controls as members, in tab order,
-// so that the declarations read as its table of controls: name, container, caption, initial state.
+// The controls as the logic of a dialog declares and uses them. A dialog declares its controls as members, in tab
+// order, so that the declarations read as its table of controls: name, container, caption, initial state.
 //
 //     Frame fraTime{Form, "fraTime", 1520};
 //     TextBox txtHour{fraTime, "txtHour", {.Text = "00", .MaxLength = 2}};

@@ -1,4 +1,4 @@
-#include "OrlinCustomDialogs/edit_text.h"
+#include "frame/controls/edit_text.h"
 
 #include <functional>
 #include <string>

@@ -34,8 +34,8 @@ using Refusal = std::optional<std::string>;
 /// The controls of a dialog as a host meets them: what they show, and what an operator can do with mouse and keyboard.
 /// A host calls these interfaces; who implements them is the library, or a host that stands before another one.
 ///
-/// Every operation that returns a `Refusal` first checks that the control is within reach, moves the focus where a mouse
-/// would move it, fires the events in their order, and is done when it returns.
+/// Every operation that returns a `Refusal` first checks that the control is within reach, moves the focus where a
+/// mouse would move it, fires the events in their order, and is done when it returns.
 ///
 /// What is added to a class comes behind its last member, and no class here is built on another: a host that was built
 /// against an older header goes on working.
@@ -150,8 +150,8 @@ struct Cell {
   int Alignment = 0;  ///< 1: left, centred vertically; 0: as the column
 };
 
-/// The cells of a grid: texts in rows and columns, counted from 0. The first ones may be fixed: titles, which never hold
-/// the current cell.
+/// The cells of a grid: texts in rows and columns, counted from 0. The first ones may be fixed: titles, which never
+/// hold the current cell.
 class Table {
  public:
   [[nodiscard]] virtual int Rows() const noexcept = 0;

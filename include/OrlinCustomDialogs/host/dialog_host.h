@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "OrlinCustomDialogs/host/controls.h"
 #include "OrlinCustomDialogs/failure.h"
+#include "OrlinCustomDialogs/host/controls.h"
 
 namespace [[using gnu: visibility("default")]] orlin {
 

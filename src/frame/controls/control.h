@@ -52,8 +52,8 @@ struct ControlState {
   const char* Tag = "";
 };
 
-/// What all kinds of controls have in common: their state, and the logic's side of it. Setting anything loads the dialog
-/// where that has not happened yet.
+/// What all kinds of controls have in common: their state, and the logic's side of it. Setting anything loads the
+/// dialog where that has not happened yet.
 class Control : public shown::Control {
  public:
   Control(const Control&) = delete;
