@@ -7,12 +7,11 @@
 
 #include "OrlinCustomDialogs/host/keys.h"
 
-#include "forms/label_text.h"
-
 namespace orlin {
 namespace {
 
 using shown::Control;
+using shown::LabelRole;
 
 std::string Spoken(const std::string& caption) {
   auto spoken = PlainCaption(caption);
@@ -60,7 +59,7 @@ class Teller {
   explicit Teller(const shown::Dialog& dialog) : dialog_(dialog) {}
 
   std::vector<ToldControl> Tell() {
-    FindUnits();
+    FindJoined();
     FindCaptions();
     FindColours();
     for (const auto* control : dialog_.Controls()) {
@@ -70,26 +69,16 @@ class Teller {
   }
 
  private:
-  /// A short text behind a box, or between two, belongs to the box before it and is no label of the next one.
-  void FindUnits() {
+  /// A unit is told with what stands before it, and a box behind a unit or a separator with these.
+  void FindJoined() {
     std::map<const Control*, const Control*> lastIn;  // a container
     for (const auto* control : dialog_.Controls()) {
       if (!control->IsShown()) continue;
       const auto* before = std::exchange(lastIn[control->Parent()], control);
-      if (before == nullptr) continue;
-      if (BelongsTo(*control, *before)) {
-        joined_[control] = IsSeparator(*control) ? Joins::WithoutBlank : Joins::WithBlank;
-      } else if (joined_.contains(before) && IsSingleLine(*control)) {
-        joined_[control] = joined_[before];
-      }
+      if (control->Role() == LabelRole::Unit) joined_[control] = Joins::WithBlank;
+      if (control->Role() == LabelRole::Separator) joined_[control] = Joins::WithoutBlank;
+      if (joined_.contains(before) && IsSingleLine(*control)) joined_[control] = joined_[before];
     }
-  }
-
-  [[nodiscard]] bool BelongsTo(const Control& label, const Control& before) const {
-    if (label.Kind() != ControlKind::Label || AccessKey(label.Caption()) != 0) return false;
-    if (before.Kind() != ControlKind::UpDown && !IsSingleLine(before) && !joined_.contains(&before)) return false;
-    const bool tellsWhatTheBoxMeans = IsSingleLine(before) && label.Names() == nullptr;
-    return tellsWhatTheBoxMeans || IsSeparator(label) || IsUnit(label);
   }
 
   /// Several labels may stand before a control: the last one names it, and the others are texts.
@@ -101,20 +90,11 @@ class Teller {
     }
   }
 
-  /// Labels of a colour stand behind the texts that tell what the colours mean, in the same order.
   void FindColours() {
-    std::vector<const Control*> texts;
-    std::size_t next = 0;
     for (const auto* control : dialog_.Controls()) {
-      if (control->Kind() != ControlKind::Label || !control->IsShown()) {
-        texts.clear();
-        next = 0;
-      } else if (!control->Caption().empty()) {
-        texts.push_back(control);
-      } else if (control->BackColor() && next < texts.size()) {
-        meanings_[*control->BackColor()] = Spoken(texts[next]->Caption());
-        explained_.insert(texts[next++]);
-      }
+      if (control->Role() != LabelRole::ColourKey || !control->IsShown() || !control->BackColor()) continue;
+      meanings_[*control->BackColor()] = Spoken(control->ToldBy()->Caption());
+      explained_.insert(control->ToldBy());
     }
   }
 
@@ -147,12 +127,13 @@ class Teller {
         named != nullptr && (!named->IsShown() || (caption != labels_.end() && caption->second == &label));
     if (text.empty() || isCaption || explained_.contains(&label)) return;
     // "Code of zone 5", and further on "4000"
-    if (IsCode(label)) {
-      for (auto& heading : told_) {
-        if (heading.Kind != ControlKind::Label || !heading.Caption.empty() || heading.Joins != Joins::No) continue;
-        auto& shown = std::get<told::Text>(heading.Shows).Shown;
-        heading.Caption = Spoken(shown);
-        heading.Name = label.Name();
+    if (const auto* heading = label.ToldBy(); heading != nullptr) {
+      const auto told =
+          std::find_if(told_.begin(), told_.end(), [&](auto& one) { return one.Name == heading->Name(); });
+      if (told != told_.end()) {
+        auto& shown = std::get<told::Text>(told->Shows).Shown;
+        told->Caption = Spoken(shown);
+        told->Name = label.Name();
         shown = text;
         return;
       }
@@ -165,7 +146,7 @@ class Teller {
     one.Name = control.Name();
     one.Kind = control.Kind();
     const auto label = labels_.find(&control);
-    if (IsMark(control)) one.Caption = Spoken(control.Caption());
+    if (control.AsMark() != nullptr) one.Caption = Spoken(control.Caption());
     if (one.Caption.empty() && label != labels_.end()) one.Caption = Spoken(label->second->Caption());
     one.Frame = FrameOf(control);
     one.Enabled = control.WithinReach();

@@ -26,13 +26,13 @@ constexpr double kMostOfScreen = 0.9;
 }  // namespace
 
 DialogWindow::DialogWindow(shown::Dialog& dialog, Timers timers, QWidget* parent)
-    : QDialog(parent), dialog_(dialog), timers_(timers), plan_(PlanDialog(dialog)) {
+    : QDialog(parent), dialog_(dialog), timers_(timers), form_(FormOf(dialog)) {
   setWindowModality(Qt::ApplicationModal);
   setFocusPolicy(Qt::StrongFocus);
   body_ = new QWidget(this);
   MakeViews(*body_);
   Present();
-  FormLayout layout(plan_, [this](const auto& control) { return ViewOf(control).Widget(); });
+  FormLayout layout(form_, [this](const auto& control) { return ViewOf(control).Widget(); });
   layout.LayOut(*this, *body_);
   stretches_ = layout.Stretches();
 }
@@ -53,7 +53,7 @@ void DialogWindow::WidenCaptions() {
 void DialogWindow::MakeViews(QWidget& body) {
   const auto inButtonRow = [this](const shown::Control* control) {
     const auto holds = [&](const FormLine& line) { return std::find(line.begin(), line.end(), control) != line.end(); };
-    return holds(plan_.LeftButtons) || holds(plan_.RightButtons) || control == plan_.Status;
+    return holds(form_.LeftButtons) || holds(form_.RightButtons) || control == form_.Status;
   };
   for (auto* control : dialog_.Controls()) {
     QWidget* parent = inButtonRow(control) ? this : &body;
@@ -67,7 +67,7 @@ void DialogWindow::MakeViews(QWidget& body) {
     views_.push_back(MakeView(*control, *this, parent));
     Watch(*views_.back());
   }
-  for (const auto& [field, label] : plan_.Labels) {
+  for (const auto& [field, label] : form_.Labels) {
     dynamic_cast<QLabel&>(*ViewOf(*label).Widget()).setBuddy(ViewOf(*field).Widget());
   }
 }
@@ -161,22 +161,18 @@ void DialogWindow::PresentFocus() {
   if (another && focused != nullptr && focused->AsTextField() != nullptr) ViewOf(*focused).Present();
 }
 
-// What a screen reader says for a field: its label, else the frame that it stands in, else the dialog.
+// What a screen reader says for a field.
 void DialogWindow::PresentNames() {
   for (const auto& view : views_) {
     const auto& control = view->Control();
     auto* widget = view->Widget();
     if (widget == nullptr || !control.TakesFocus() || !control.Caption().empty()) continue;
-    const auto label = plan_.Labels.find(&control);
-    const auto& source = label != plan_.Labels.end() ? label->second->Caption()
-                         : control.Parent() != nullptr && !control.Parent()->Caption().empty()
-                             ? control.Parent()->Caption()
-                             : dialog_.Caption();
-    if (label != plan_.Labels.end() && label->second->Names() == &control) {
+    const auto label = form_.Labels.find(&control);
+    if (label != form_.Labels.end() && label->second->Names() == &control) {
       auto& shown = dynamic_cast<QLabel&>(*ViewOf(*label->second).Widget());
       if (shown.buddy() != widget) shown.setBuddy(widget);
     }
-    const auto name = SpokenCaption(source);
+    const auto name = SpokenCaption(form_.NameOf(control));
     if (widget->accessibleName() == name) continue;
     widget->setAccessibleName(name);
     for (auto* field : widget->findChildren<QLineEdit*>()) field->setAccessibleName(name);

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "OrlinCustomDialogs/host/controls.h"
+#include "OrlinCustomDialogs/host/form.h"
 
 #include "qt/control_view.h"
-#include "qt/form_plan.h"
 
 class QScrollArea;
 
@@ -73,7 +73,7 @@ class DialogWindow final : public QDialog, public Desk {
 
   shown::Dialog& dialog_;
   Timers timers_;
-  DialogPlan plan_;
+  Form form_;
   std::vector<std::unique_ptr<ControlView>> views_;
   QWidget* body_ = nullptr;
   QWidget* keyboard_ = nullptr;

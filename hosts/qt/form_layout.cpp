@@ -37,7 +37,7 @@ bool IsCheckOfArray(const FormRow& row) {
 }  // namespace
 
 void FormLayout::LayOut(QWidget& window, QWidget& body) {
-  Fill(body, plan_.Body);
+  Fill(body, form_.Body);
   AlignFrames();
   auto* all = new QVBoxLayout(&window);
   const int letter = window.fontMetrics().averageCharWidth();
@@ -48,34 +48,34 @@ void FormLayout::LayOut(QWidget& window, QWidget& body) {
   all->addStrut(titleLetters * letter);
 
   auto* buttons = new QHBoxLayout();
-  for (const auto* button : plan_.LeftButtons) {
+  for (const auto* button : form_.LeftButtons) {
     auto* widget = widgetOf_(*button);
     widget->setMinimumWidth(widget->sizeHint().width() + 2 * letter);
     buttons->addWidget(widget);
   }
   // What ends the dialog stands apart from what does not.
-  if (!plan_.LeftButtons.empty()) buttons->addSpacing(2 * buttons->spacing());
+  if (!form_.LeftButtons.empty()) buttons->addSpacing(2 * buttons->spacing());
   buttons->addStretch(1);
   int widest = letter * kLettersOfButton;
-  for (const auto* button : plan_.RightButtons) {
+  for (const auto* button : form_.RightButtons) {
     auto* widget = widgetOf_(*button);
     widest = std::max(widest, widget->sizeHint().width());
     buttons->addWidget(widget);
   }
-  for (const auto* button : plan_.RightButtons) widgetOf_(*button)->setMinimumWidth(widest);
+  for (const auto* button : form_.RightButtons) widgetOf_(*button)->setMinimumWidth(widest);
   all->addSpacing(all->spacing());
   all->addLayout(buttons);
-  if (plan_.Status != nullptr) all->addWidget(widgetOf_(*plan_.Status));
+  if (form_.Status != nullptr) all->addWidget(widgetOf_(*form_.Status));
 }
 
-void FormLayout::Fill(QWidget& container, const FormPlan& plan) {
+void FormLayout::Fill(QWidget& container, const std::vector<FormRow>& rows) {
   auto* grid = new QGridLayout(&container);
   grid->setColumnStretch(1, 1);
-  for (std::size_t i = 0; i < plan.Rows.size();) {
-    std::vector<const FormRow*> run = {&plan.Rows[i]};
+  for (std::size_t i = 0; i < rows.size();) {
+    std::vector<const FormRow*> run = {&rows[i]};
     const auto takeWhile = [&](const auto& belongs) {
-      while (belongs(*run.front()) && i + run.size() < plan.Rows.size() && belongs(plan.Rows[i + run.size()])) {
-        run.push_back(&plan.Rows[i + run.size()]);
+      while (belongs(*run.front()) && i + run.size() < rows.size() && belongs(rows[i + run.size()])) {
+        run.push_back(&rows[i + run.size()]);
       }
       return run.size() > 1;
     };
@@ -127,7 +127,7 @@ void FormLayout::AddRow(QGridLayout& grid, const FormRow& row) {
     case FormRow::Kind::Frame: {
       const auto& frame = *row.Lines.front().front();
       auto* box = widgetOf_(frame);
-      Fill(*box, plan_.Frames.at(&frame));
+      Fill(*box, form_.Frames.at(&frame));
       frameGrids_.push_back(static_cast<QGridLayout*>(box->layout()));
       grid.addWidget(box, at, 0, 1, 2);
       return grid.setRowStretch(at, 0);

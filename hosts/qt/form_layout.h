@@ -4,8 +4,9 @@
 #include <QGridLayout>
 #include <QWidget>
 #include <functional>
+#include <vector>
 
-#include "qt/form_plan.h"
+#include "OrlinCustomDialogs/host/form.h"
 
 namespace orlin {
 
@@ -15,7 +16,7 @@ using WidgetOf = std::function<QWidget*(const shown::Control&)>;
 /// Lays out the controls of one container: labels in one column, fields in another, everything else across both.
 class FormLayout {
  public:
-  FormLayout(const DialogPlan& plan, WidgetOf widgetOf) : plan_(plan), widgetOf_(std::move(widgetOf)) {}
+  FormLayout(const Form& form, WidgetOf widgetOf) : form_(form), widgetOf_(std::move(widgetOf)) {}
 
   /// The whole window: the form, the row of buttons, the status line.
   void LayOut(QWidget& window, QWidget& body);
@@ -24,7 +25,7 @@ class FormLayout {
   [[nodiscard]] bool Stretches() const noexcept { return stretches_; }
 
  private:
-  void Fill(QWidget& container, const FormPlan& plan);
+  void Fill(QWidget& container, const std::vector<FormRow>& rows);
   void AddRow(QGridLayout& grid, const FormRow& row);
   void AddField(QGridLayout& grid, const FormRow& row);
   void AddTall(QGridLayout& grid, const std::vector<const FormRow*>& columns);
@@ -34,7 +35,7 @@ class FormLayout {
   void AddMarks(QGridLayout& grid, const std::vector<const FormRow*>& marks);
   void AlignFrames();
 
-  const DialogPlan& plan_;
+  const Form& form_;
   WidgetOf widgetOf_;
   bool stretches_ = false;
   std::vector<QGridLayout*> frameGrids_;

@@ -39,11 +39,6 @@ class ClickedLabel final : public QLabel {
   std::function<void()> onClick_;
 };
 
-bool IsMark(const shown::Control* control) {
-  return control != nullptr &&
-         (control->Kind() == ControlKind::CheckBox || control->Kind() == ControlKind::OptionButton);
-}
-
 class LabelView final : public ViewOf<shown::Control> {
  public:
   LabelView(shown::Control& label, Desk& desk, QWidget* parent)
@@ -70,7 +65,7 @@ class LabelView final : public ViewOf<shown::Control> {
   // Where the label stands for the caption of a check box or an option, it is pressed like one.
   void Click() {
     auto* named = Its().Names();
-    if (IsMark(named)) At().Do([named] { return named->Press(); });
+    if (named != nullptr && named->AsMark() != nullptr) At().Do([named] { return named->Press(); });
   }
 
   QLabel* label_;

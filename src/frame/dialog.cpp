@@ -29,11 +29,7 @@ void Dialog::Touched() {
 
 void Dialog::LoadCaptions() {
   if (titleNumber_ != 0) SkipFailure([this] { SetCaption(GetLocalText(titleNumber_)); });
-  for (auto* shown : controls_) {
-    auto& control = Own(*shown);
-    if (control.captionNumber_ == 0) continue;
-    SkipFailure([&] { control.SetCaption(GetLocalText(control.captionNumber_)); });
-  }
+  for (auto* control : controls_) Own(*control).LoadTexts();
 }
 
 void Dialog::Centre() {

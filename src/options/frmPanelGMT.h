@@ -27,10 +27,10 @@ class frmPanelGMT {
   Label Label5{Frame1, "Label5", "Panel Time differs from GMT by:"};
   TextBox txthrsfromGMT{Frame1, "txthrsfromGMT", {.Text = "0", .MaxLength = 2}};
   UpDown udHrsfromGMT{Frame1, "udHrsfromGMT", {.Min = 0, .Max = 12, .Buddy = &txthrsfromGMT}};
-  Label Label1{Frame1, "Label1", "Hrs"};
+  Label Label1{Frame1, "Label1", "Hrs", Label::Unit};
   TextBox txtminfromGMT{Frame1, "txtminfromGMT", {.Text = "0", .MaxLength = 3}};
   UpDown udMinfromGMT{Frame1, "udMinfromGMT", {.Min = 0, .Max = 60, .Buddy = &txtminfromGMT}};
-  Label lblSec{Frame1, "lblSec", "Min", {}, 2};
+  Label lblSec{Frame1, "lblSec", "Min", Label::Unit, {}, 2};
   CheckBox chkPanelTime{Frame1, "chkPanelTime", "Panel Time behind GMT(UTC)"};
   CheckBox chkPanelDayLightSaving{Frame1, "chkPanelDayLightSaving", "Daylight Savings"};
   OKButton cmdOK{Form, "&OK"};

@@ -36,9 +36,9 @@ class frmOutputFuncsPine {
 
   Frame fraCode{Form, "fraCode", 1265};
   TextBox txtDigit1{fraCode, "txtDigit1", {.MaxLength = 1}};
-  Label lblComma{fraCode, "lblComma", ","};
+  Label lblComma{fraCode, "lblComma", ",", Label::Separator};
   TextBox txtDigit2{fraCode, "txtDigit2", {.MaxLength = 2}};
-  Label txtFunctionCode{fraCode, "txtFunctionCode"};
+  Label txtFunctionCode{fraCode, "txtFunctionCode", {}, Label::Unit};
   ListBox lstFunctionCode{Form, "lstFunctionCode"};
   OKButton cmdOK{Form};
   CancelButton cmdCancel{Form};

@@ -60,12 +60,12 @@ class frmSkedFuncsWillow {
   OptionButton optDisabled{fraType, "optDisabled", 1526};
 
   Frame fraTime{Form, "fraTime", 1520};
-  TextBox txtHour{fraTime, "txtHour", {.Text = "00", .MaxLength = 2}};
-  Label lblTimeColon{fraTime, "lblTimeColon", ":"};
-  TextBox txtMinute{fraTime, "txtMinute", {.Text = "00", .MaxLength = 2}};
-  Label lblIndicator{fraTime, "lblIndicator", "24"};
+  TextBox txtHour{fraTime, "txtHour", {.Text = "00", .MaxLength = 2, .Common = {.Spoken = 20000}}};
+  Label lblTimeColon{fraTime, "lblTimeColon", ":", Label::Separator};
+  TextBox txtMinute{fraTime, "txtMinute", {.Text = "00", .MaxLength = 2, .Common = {.Spoken = 20001}}};
+  Label lblIndicator{fraTime, "lblIndicator", "24", Label::Unit};
   UpDown udTime{fraTime, "udTime"};
-  Label lblHourMinDef{fraTime, "lblHourMinDef", 1521};
+  Label lblHourMinDef{fraTime, "lblHourMinDef", 1521, Label::Text};
   CheckBox chkTimeEdit{fraTime, "chkTimeEdit", 1522};
 
   Frame fraDate{Form, "fraDate", 1523};
@@ -73,7 +73,7 @@ class frmSkedFuncsWillow {
   ComboBox cmbMonth{fraDate, "cmbMonth"};
   Label lblDay{fraDate, "lblDay", 1154};
   ComboBox cmbDay{fraDate, "cmbDay"};
-  Label lblMonthDayDef{fraDate, "lblMonthDayDef", 1524};
+  Label lblMonthDayDef{fraDate, "lblMonthDayDef", 1524, Label::Text};
 
   Frame fraDOW{Form, "fraDOW", 1529};
   ControlArray<CheckBox, willow::kDaysOfWeek> chkDOW{fraDOW, "chkDOW", {1536, 1535, 1534, 1533, 1532, 1531, 1530}};

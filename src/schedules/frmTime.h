@@ -39,10 +39,10 @@ class frmTime {
 
   Dialog Form{"frmTime", 1175, {.HandlesFailures = true}};
 
-  TextBox txtHour{Form, "txtHour", {.Text = "00", .MaxLength = 2}};
-  Label Label1{Form, "Label1", ":"};
-  TextBox txtMinute{Form, "txtMinute", {.Text = "00", .MaxLength = 2}};
-  Label lblIndicator{Form, "lblIndicator", "24"};
+  TextBox txtHour{Form, "txtHour", {.Text = "00", .MaxLength = 2, .Common = {.Spoken = 20000}}};
+  Label Label1{Form, "Label1", ":", Label::Separator};
+  TextBox txtMinute{Form, "txtMinute", {.Text = "00", .MaxLength = 2, .Common = {.Spoken = 20001}}};
+  Label lblIndicator{Form, "lblIndicator", "24", Label::Unit};
   UpDown UpDown1{Form, "UpDown1"};
   StatusBar StatusBar1{Form, "StatusBar1"};
   OKButton cmdOK{Form};

@@ -44,7 +44,7 @@ class frmErrorSIA_Nova {
 
   Dialog Form{"frmErrorSIA_Nova", 10681, {.Unloads = true, .HandlesFailures = true}, {11700, 7500}};
 
-  Label lblUserWarning{Form, "lblUserWarning", 10683};
+  Label lblUserWarning{Form, "lblUserWarning", 10683, Label::Text};
   Frame grpErrorDetails{Form, "grpErrorDetails", 10682};
   Grid vsFlexArray1{grpErrorDetails,
                     "vsFlexArray1",

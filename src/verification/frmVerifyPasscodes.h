@@ -68,13 +68,13 @@ class frmVerifyPasscodes {
 
   Label lblCaption{Form, "lblCaption"};
   Grid fa{Form, "fa", {.Rows = 251, .Cols = 2, .FixedRows = 1, .FixedCols = 1, .Common = {.Width = 3180}}};
-  ListBox lstMatch{Form, "lstMatch"};
-  ListBox lstUnusable{Form, "lstUnusable"};
-  ListBox lstExisting{Form, "lstExisting"};
-  Label Label1{Form, "Label1", 10726, {.Top = 5640}};
-  Label Label2{Form, "Label2", 10727, {.Top = 5640}};
-  Label Shape1{Form, "Shape1", "", {.Top = 5640}};
-  Label Shape2{Form, "Shape2", "", {.Top = 5640}};
+  ListBox lstMatch{Form, "lstMatch", {.HasHeading = true}};
+  ListBox lstUnusable{Form, "lstUnusable", {.HasHeading = true}};
+  ListBox lstExisting{Form, "lstExisting", {.HasHeading = true}};
+  Label Label1{Form, "Label1", 10726, Label::Text, {.Top = 5640}};
+  Label Label2{Form, "Label2", 10727, Label::Text, {.Top = 5640}};
+  Label Shape1{Form, "Shape1", "", Label::ColourOf(Label1), {.Top = 5640}};
+  Label Shape2{Form, "Shape2", "", Label::ColourOf(Label2), {.Top = 5640}};
   OptionButton optSave{Form, "optSave", 10718};
   OptionButton optPlZeroSsave{Form, "optPlZeroSsave"};
   OKButton cmdOK{Form};

@@ -27,7 +27,7 @@ class frmPointCodesOak {
   Label lblPointText{Form, "lblPointText"};
   ControlArray<Label, 5, 1> lblDigit{Form, "lblDigit", {1391, 1390, 1389, 1388, 1387}};
   ControlArray<ComboBox, 5, 1> cmbDigit{Form, "cmbDigit"};
-  Label lblPointCode{Form, "lblPointCode"};
+  Label lblPointCode{Form, "lblPointCode", {}, Label::ValueOf(lblPointText)};
   OKButton cmdOK{Form};
   CancelButton cmdCancel{Form};
 

@@ -23,12 +23,12 @@
 
 #include <gtest/gtest.h>
 
+#include "OrlinCustomDialogs/host/form.h"
 #include "OrlinCustomDialogs/platform.h"
 
 #include "frame/dialog.h"
 #include "qt/colours.h"
 #include "qt/dialog_window.h"
-#include "qt/form_plan.h"
 #include "qt/keys.h"
 #include "qt/qt_host.h"
 
@@ -52,7 +52,7 @@ struct Sample {
   OptionButton optC{fraMode, "optC"};
   TextBox txtHour{fraMode, "txtHour", {.Text = "7", .MaxLength = 2}};
   UpDown udHour{fraMode, "udHour", {.Min = 0, .Max = 23, .Buddy = &txtHour}};
-  Label lblUnit{fraMode, "lblUnit", "h"};
+  Label lblUnit{fraMode, "lblUnit", "h", Label::Unit};
   CheckBox chkOn{Form, "chkOn", "&On"};
   ListBox lstChecks{Form, "lstChecks", {.Choice = shown::Choice::Checks}};
   Grid grdTable{Form, "grdTable", {.Rows = 4, .Cols = 2, .FixedRows = 1, .FixedCols = 1}};
@@ -328,14 +328,14 @@ TEST_F(WindowsTest, ADialogLargerThanTheScreenScrollsAndKeepsItsButtons) {
   });
 }
 
-TEST(PlanTest, UnitsAndAlternativesStandWithTheirField) {
+TEST(FormTest, UnitsAndAlternativesStandWithTheirField) {
   struct Parts {
     Dialog Form{"frmParts", "", {}};
     Label lblA{Form, "lblA", "Time:"};
     TextBox txtHour{Form, "txtHour"};
-    Label lblColon{Form, "lblColon", ":"};
+    Label lblColon{Form, "lblColon", ":", Label::Separator};
     TextBox txtMinute{Form, "txtMinute"};
-    Label lblUnit{Form, "lblUnit", "h"};
+    Label lblUnit{Form, "lblUnit", "any length, in any language:", Label::Unit};
     UpDown udTime{Form, "udTime"};
     ComboBox cmbOther{Form, "cmbOther"};
     Label lblB{Form, "lblB", "List:"};
@@ -349,22 +349,22 @@ TEST(PlanTest, UnitsAndAlternativesStandWithTheirField) {
   platform.Host = std::make_shared<QtHost>();
   UsePlatform(std::move(platform));
   const Parts parts;
-  const auto plan = PlanDialog(parts.Form);
+  const auto form = FormOf(parts.Form);
   const auto names = [](const FormLine& line) {
     std::string all;
     for (const auto* control : line) all.append(all.empty() ? "" : " ").append(control->Name());
     return all;
   };
-  ASSERT_EQ(plan.Body.Rows.size(), 2U);
-  EXPECT_EQ(plan.Body.Rows[0].Label, &parts.lblA);
-  ASSERT_EQ(plan.Body.Rows[0].Lines.size(), 2U);
-  EXPECT_EQ(names(plan.Body.Rows[0].Lines[0]), "txtHour lblColon txtMinute udTime lblUnit");
-  EXPECT_EQ(names(plan.Body.Rows[0].Lines[1]), "cmbOther");
-  EXPECT_EQ(plan.Body.Rows[1].What, FormRow::Kind::Tall);
-  EXPECT_EQ(plan.Body.Rows[1].Label, &parts.lblB) << "also while nothing behind it is visible";
-  EXPECT_EQ(plan.Labels.at(&parts.lstB), &parts.lblB);
-  EXPECT_EQ(names(plan.LeftButtons), "cmdMore");
-  EXPECT_EQ(names(plan.RightButtons), "cmdOK cmdCancel");
+  ASSERT_EQ(form.Body.size(), 2U);
+  EXPECT_EQ(form.Body[0].Label, &parts.lblA);
+  ASSERT_EQ(form.Body[0].Lines.size(), 2U);
+  EXPECT_EQ(names(form.Body[0].Lines[0]), "txtHour lblColon txtMinute udTime lblUnit");
+  EXPECT_EQ(names(form.Body[0].Lines[1]), "cmbOther");
+  EXPECT_EQ(form.Body[1].What, FormRow::Kind::Tall);
+  EXPECT_EQ(form.Body[1].Label, &parts.lblB) << "also while nothing behind it is visible";
+  EXPECT_EQ(form.Labels.at(&parts.lstB), &parts.lblB);
+  EXPECT_EQ(names(form.LeftButtons), "cmdMore");
+  EXPECT_EQ(names(form.RightButtons), "cmdOK cmdCancel");
   UsePlatform({});
 }
 

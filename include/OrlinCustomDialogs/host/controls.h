@@ -44,6 +44,16 @@ namespace shown {
 class Control;
 class Dialog;
 
+/// What the text of a label is for.
+enum class LabelRole {
+  Name,       ///< names a control
+  Text,       ///< stands for itself
+  Unit,       ///< stands behind a field and belongs to it: "Min"
+  Separator,  ///< stands between two fields of one value: ":"
+  Value,      ///< is the value that another label names: "4000"
+  ColourKey,  ///< has no text, but a colour that another label explains
+};
+
 /// How far Page Up and Page Down go in lists and grids.
 inline constexpr int kRowsOfAPage = 10;
 
@@ -223,8 +233,14 @@ class Control {
   /// Grows with every change that a host may have to present.
   [[nodiscard]] virtual std::uint32_t Revision() const noexcept = 0;
 
-  /// Of a label, the control that it names and whose access key it carries; else null.
+  /// Of a label; other kinds have none, and tell `Name`.
+  [[nodiscard]] virtual LabelRole Role() const noexcept = 0;
+  /// Of a label that names a control: this control, whose access key it carries. Of every other control null.
   [[nodiscard]] virtual Control* Names() const = 0;
+  /// Of a value or a colour key, the label that tells what it is; else null.
+  [[nodiscard]] virtual Control* ToldBy() const noexcept = 0;
+  /// What the dialog calls a control for people who do not see it, where that is more than caption and label tell.
+  [[nodiscard]] virtual std::string SpokenName() const = 0;
 
   /// Moves the focus here.
   virtual Refusal Focus() = 0;

@@ -2,6 +2,8 @@
 
 #include "frame/controls/frame.h"
 #include "frame/dialog.h"
+#include "frame/failure.h"
+#include "frame/modGeneral.h"
 
 namespace orlin {
 namespace {
@@ -60,6 +62,7 @@ Control::Control(ControlKind kind, const Container& in, std::string_view name, c
       width_(state.Width),
       caption_(caption.Text),
       captionNumber_(caption.Number),
+      spokenNumber_(state.Spoken),
       tag_(state.Tag) {
   form_->Take(*this);
 }
@@ -106,6 +109,11 @@ Refusal Control::Focus() {
 }
 
 Refusal Control::Press() { return name_ + " is a " + std::string(KindName(kind_)) + ", which cannot be pressed"; }
+
+void Control::LoadTexts() {
+  if (captionNumber_ != 0) SkipFailure([this] { SetCaption(GetLocalText(captionNumber_)); });
+  if (spokenNumber_ != 0) SkipFailure([this] { spokenName_ = GetLocalText(spokenNumber_); });
+}
 
 void Control::Touch() const { form_->Touched(); }
 

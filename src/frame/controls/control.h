@@ -50,6 +50,7 @@ struct ControlState {
   int Top = 0;
   int Width = 0;
   const char* Tag = "";
+  std::int16_t Spoken = 0;  ///< the number of the name for people who do not see the control; 0 for none
 };
 
 /// What all kinds of controls have in common: their state, and the logic's side of it. Setting anything loads the
@@ -76,7 +77,10 @@ class Control : public shown::Control {
   [[nodiscard]] bool TakesFocus() const noexcept final;
   [[nodiscard]] bool HasFocus() const noexcept final;
   [[nodiscard]] std::uint32_t Revision() const noexcept final { return revision_; }
+  [[nodiscard]] shown::LabelRole Role() const noexcept override { return shown::LabelRole::Name; }
   [[nodiscard]] shown::Control* Names() const override { return nullptr; }
+  [[nodiscard]] shown::Control* ToldBy() const noexcept override { return nullptr; }
+  [[nodiscard]] std::string SpokenName() const override { return spokenName_; }
   Refusal Focus() final;
   Refusal Press() override;
 
@@ -135,6 +139,8 @@ class Control : public shown::Control {
   virtual void EnterByTab() {}
 
  private:
+  /// Takes the texts of the catalogue that are declared by number. Failures are skipped.
+  void LoadTexts();
   /// Runs a handler that the operator caused.
   void Guard(std::string_view event, const std::function<void()>& handler) const;
 
@@ -150,6 +156,8 @@ class Control : public shown::Control {
   int width_;
   std::string caption_;
   std::int16_t captionNumber_;  // in the catalogue; 0 for a caption that is not loaded
+  std::int16_t spokenNumber_;   // likewise
+  std::string spokenName_;
   std::optional<std::int32_t> backColor_;
   bool tabStop_ = true;
   std::string tag_;

@@ -5,6 +5,7 @@
 namespace orlin {
 
 shown::Control* Label::Names() const {
+  if (use_.Role != shown::LabelRole::Name) return nullptr;
   const auto& all = Form().Controls();
   shown::Control* first = nullptr;
   for (auto next = std::find(all.begin(), all.end(), this) + 1; next != all.end(); ++next) {

@@ -1,16 +1,14 @@
-#include "qt/form_plan.h"
+#include "OrlinCustomDialogs/host/form.h"
 
 #include <algorithm>
-#include <string>
-
-#include "OrlinCustomDialogs/host/keys.h"
-
-#include "forms/label_text.h"
 
 namespace orlin {
 namespace {
 
 using shown::Control;
+using shown::LabelRole;
+
+bool IsMark(const Control& control) { return control.AsMark() != nullptr; }
 
 bool IsTall(const Control& control) {
   if (control.Kind() == ControlKind::ListBox || control.Kind() == ControlKind::Grid) return true;
@@ -37,7 +35,7 @@ const Control* FirstBehind(const std::vector<Control*>& all, std::vector<Control
 std::map<const Control*, Control*> LabelsOf(const std::vector<Control*>& all) {
   std::map<const Control*, Control*> labels;
   for (auto at = all.begin(); at != all.end(); ++at) {
-    if ((*at)->Kind() != ControlKind::Label) continue;
+    if ((*at)->Kind() != ControlKind::Label || (*at)->Role() != LabelRole::Name) continue;
     const auto* named = FirstBehind(all, at);
     if (named != nullptr && WantsLabel(*named)) labels[named] = *at;
   }
@@ -50,31 +48,12 @@ class Planner {
   Planner(std::vector<Control*> inside, std::map<const Control*, Control*>& labels)
       : inside_(std::move(inside)), labels_(labels) {}
 
-  FormPlan Plan() {
-    FindUnits();
+  std::vector<FormRow> Plan() {
     for (at_ = 0; at_ < inside_.size(); ++at_) Place(*inside_[at_]);
-    return std::move(plan_);
+    return std::move(rows_);
   }
 
  private:
-  // A short text right behind a box or its buttons is its unit, or stands between two boxes: no label of the next one.
-  // One that names nothing tells what the box means.
-  void FindUnits() {
-    for (std::size_t i = 1; i < inside_.size(); ++i) {
-      auto* label = inside_[i];
-      if (label->Kind() != ControlKind::Label || AccessKey(label->Caption()) != 0) continue;
-      const auto kind = inside_[i - 1]->Kind();
-      const bool behindBox = kind == ControlKind::UpDown ||
-                             (kind == ControlKind::TextBox && !IsTall(*inside_[i - 1])) ||
-                             std::find(units_.begin(), units_.end(), inside_[i - 1]) != units_.end();
-      const bool isResult = kind == ControlKind::TextBox && label->Names() == nullptr;
-      const bool isUnit = isResult || IsSeparator(*label) || IsUnit(*label);
-      if (!behindBox || !isUnit) continue;
-      units_.push_back(label);
-      std::erase_if(labels_, [&](const auto& entry) { return entry.second == label; });
-    }
-  }
-
   void Place(Control& control) {
     switch (control.Kind()) {
       case ControlKind::Timer:
@@ -87,7 +66,7 @@ class Planner {
       case ControlKind::Frame:
         return Add({FormRow::Kind::Frame, nullptr, {{&control}}});
       case ControlKind::Button:
-        if (!plan_.Rows.empty() && plan_.Rows.back().What == FormRow::Kind::Buttons) return Continue(control);
+        if (!rows_.empty() && rows_.back().What == FormRow::Kind::Buttons) return Continue(control);
         return Add({FormRow::Kind::Buttons, nullptr, {{&control}}});
       case ControlKind::CheckBox:
       case ControlKind::OptionButton:
@@ -98,19 +77,18 @@ class Planner {
   }
 
   void Add(FormRow row) {
-    plan_.Rows.push_back(std::move(row));
+    rows_.push_back(std::move(row));
     joinsNext_ = false;
   }
 
   void Continue(Control& control) {
-    if (plan_.Rows.empty() || plan_.Rows.back().Lines.empty()) {
+    if (rows_.empty() || rows_.back().Lines.empty()) {
       return Add({FormRow::Kind::Field, nullptr, {{&control}}});
     }
-    auto& line = plan_.Rows.back().Lines.back();
+    auto& line = rows_.back().Lines.back();
     // Up-down buttons stand at the box, in front of its unit.
     const auto& last = *line.back();
-    const bool beforeUnit =
-        control.Kind() == ControlKind::UpDown && last.Kind() == ControlKind::Label && !IsSeparator(last);
+    const bool beforeUnit = control.Kind() == ControlKind::UpDown && last.Role() == LabelRole::Unit;
     line.insert(beforeUnit ? std::prev(line.end()) : line.end(), &control);
   }
 
@@ -120,40 +98,39 @@ class Planner {
   }
 
   [[nodiscard]] bool FieldIsOpen() const {
-    return !plan_.Rows.empty() &&
-           (plan_.Rows.back().What == FormRow::Kind::Field || plan_.Rows.back().What == FormRow::Kind::Tall);
+    return !rows_.empty() && (rows_.back().What == FormRow::Kind::Field || rows_.back().What == FormRow::Kind::Tall);
   }
 
   void PlaceLabel(Control& label) {
-    if (std::find(units_.begin(), units_.end(), &label) != units_.end()) {
-      Continue(label);
-      joinsNext_ = true;
-      return;
-    }
-    const bool namesField =
-        std::any_of(labels_.begin(), labels_.end(), [&](const auto& entry) { return entry.second == &label; });
-    if (namesField) return;
-    if (label.BackColor() && label.Caption().empty()) return PlaceColourKey(label);
-    // "Code of zone 5:" "4000"
-    const bool isValue = IsCode(label);
-    const auto heading = std::find_if(plan_.Rows.begin(), plan_.Rows.end(), [](const auto& row) {
-      return row.What == FormRow::Kind::Text && row.Lines.empty();
-    });
-    if (isValue && heading != plan_.Rows.end()) {
-      heading->What = FormRow::Kind::Pair;
-      heading->Lines = {{&label}};
-      return;
+    switch (label.Role()) {
+      case LabelRole::Unit:
+      case LabelRole::Separator:
+        Continue(label);
+        joinsNext_ = true;
+        return;
+      case LabelRole::Value:
+        return PlaceBeside(label, FormRow::Kind::Pair);
+      case LabelRole::ColourKey:
+        return PlaceBeside(label, FormRow::Kind::Text);
+      case LabelRole::Name: {
+        const bool namesField =
+            std::any_of(labels_.begin(), labels_.end(), [&](const auto& entry) { return entry.second == &label; });
+        if (namesField) return;
+        break;
+      }
+      case LabelRole::Text:
+        break;
     }
     Add({FormRow::Kind::Text, &label, {}});
   }
 
-  // The colours stand in front of the texts that explain them, in the same order.
-  void PlaceColourKey(Control& colour) {
-    auto row = plan_.Rows.end();
-    while (row != plan_.Rows.begin() && std::prev(row)->What == FormRow::Kind::Text) --row;
-    while (row != plan_.Rows.end() && !row->Lines.empty()) ++row;
-    if (row == plan_.Rows.end()) return Add({FormRow::Kind::Text, &colour, {}});
-    row->Lines = {{&colour}};
+  // A value or a colour stands with the text that tells what it is.
+  void PlaceBeside(Control& label, FormRow::Kind kind) {
+    const auto text =
+        std::find_if(rows_.begin(), rows_.end(), [&](const auto& row) { return row.Label == label.ToldBy(); });
+    if (text == rows_.end()) return Add({FormRow::Kind::Text, &label, {}});
+    text->What = kind;
+    text->Lines = {{&label}};
   }
 
   void PlaceMark(Control& mark) {
@@ -162,7 +139,7 @@ class Planner {
     const auto next = std::find_if(inside_.begin() + static_cast<std::ptrdiff_t>(at_) + 1, inside_.end(),
                                    [](const auto* control) { return !IsMark(*control); });
     const bool between = next != inside_.end() && IsField(**next) && LabelOf(**next) == nullptr;
-    if (between && FieldIsOpen()) return plan_.Rows.back().Lines.push_back({&mark});
+    if (between && FieldIsOpen()) return rows_.back().Lines.push_back({&mark});
     Add({FormRow::Kind::Mark, nullptr, {{&mark}}});
   }
 
@@ -172,9 +149,9 @@ class Planner {
     if (label == nullptr && joinsNext_ && field.Kind() == ControlKind::TextBox && !IsTall(field)) {
       Continue(field);
     } else if (label == nullptr && FieldIsOpen()) {
-      plan_.Rows.back().Lines.push_back({&field});
-      if (plan_.Rows.back().Label != nullptr) labels_[&field] = plan_.Rows.back().Label;
-      if (kind == FormRow::Kind::Tall) plan_.Rows.back().What = kind;
+      rows_.back().Lines.push_back({&field});
+      if (rows_.back().Label != nullptr) labels_[&field] = rows_.back().Label;
+      if (kind == FormRow::Kind::Tall) rows_.back().What = kind;
     } else {
       Add({kind, label, {{&field}}});
     }
@@ -183,10 +160,9 @@ class Planner {
 
   std::vector<Control*> inside_;
   std::map<const Control*, Control*>& labels_;
-  std::vector<const Control*> units_;
   std::size_t at_ = 0;
   bool joinsNext_ = false;
-  FormPlan plan_;
+  std::vector<FormRow> rows_;
 };
 
 /// Takes the buttons off the end of the dialog's own controls.
@@ -212,26 +188,34 @@ std::vector<Control*> ControlsIn(const shown::Dialog& dialog, const Control* con
 
 }  // namespace
 
-DialogPlan PlanDialog(const shown::Dialog& dialog) {
-  DialogPlan plan;
-  plan.Labels = LabelsOf(dialog.Controls());
+Form FormOf(const shown::Dialog& dialog) {
+  Form form;
+  form.Labels = LabelsOf(dialog.Controls());
   for (auto* control : dialog.Controls()) {
-    if (control->Kind() == ControlKind::StatusBar) plan.Status = control;
+    if (control->Kind() == ControlKind::StatusBar) form.Status = control;
     if (control->Kind() == ControlKind::Frame) {
-      plan.Frames[control] = Planner(ControlsIn(dialog, control), plan.Labels).Plan();
+      form.Frames[control] = Planner(ControlsIn(dialog, control), form.Labels).Plan();
     }
   }
   auto inside = ControlsIn(dialog, nullptr);
   const auto buttons = TakeButtons(inside);
-  plan.Body = Planner(std::move(inside), plan.Labels).Plan();
+  form.Body = Planner(std::move(inside), form.Labels).Plan();
 
   // The last two end the dialog; what comes before them, and is neither default nor cancel button, does something else.
   for (std::size_t i = 0; i < buttons.size(); ++i) {
     const bool ends =
         i + 2 >= buttons.size() || buttons[i] == dialog.DefaultButton() || buttons[i] == dialog.CancelButton();
-    (ends ? plan.RightButtons : plan.LeftButtons).push_back(buttons[i]);
+    (ends ? form.RightButtons : form.LeftButtons).push_back(buttons[i]);
   }
-  return plan;
+  return form;
+}
+
+std::string Form::NameOf(const Control& control) const {
+  if (!control.Caption().empty()) return control.Caption();
+  if (auto spoken = control.SpokenName(); !spoken.empty()) return spoken;
+  if (const auto label = Labels.find(&control); label != Labels.end()) return label->second->Caption();
+  const auto* frame = control.Parent();
+  return frame != nullptr && !frame->Caption().empty() ? frame->Caption() : control.Form().Caption();
 }
 
 }  // namespace orlin

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <map>
+#include <string>
 #include <vector>
 
 #include "OrlinCustomDialogs/host/controls.h"
 
-namespace orlin {
+// How the controls of a dialog belong together: for all that lay a dialog out, draw it or tell it in words.
+
+namespace [[using gnu: visibility("default")]] orlin {
 
 /// Controls that stand side by side.
 using FormLine = std::vector<shown::Control*>;
@@ -15,7 +18,7 @@ struct FormRow {
   enum class Kind {
     Field,  ///< a label, and what it names: one line, or several of which mostly one is visible
     Tall,   ///< the same for lists, tables and texts of several lines, which stand below their label
-    Text,   ///< a label that names no field
+    Text,   ///< a label that names no field, perhaps with the colour that it explains
     Pair,   ///< a label, and a second one that is its value
     Mark,   ///< a check box or an option, perhaps with a label for its caption
     Frame,
@@ -26,22 +29,22 @@ struct FormRow {
   std::vector<FormLine> Lines;
 };
 
-/// How the controls of a dialog, or of a frame in it, are laid out: read from their kinds and their order.
-struct FormPlan {
-  std::vector<FormRow> Rows;
-};
-
-/// The parts of a dialog that stand in fixed places.
-struct DialogPlan {
-  FormPlan Body;
-  std::map<const shown::Control*, FormPlan> Frames;
+/// The form of a dialog. It depends on what the dialog declares, not on its texts, and stays the same while the dialog
+/// is shown: whether a control is visible is asked of the control.
+struct Form {
+  std::vector<FormRow> Body;
+  std::map<const shown::Control*, std::vector<FormRow>> Frames;  ///< what stands in each frame
   FormLine LeftButtons;   ///< of the button row: those that do not end the dialog
   FormLine RightButtons;  ///< OK and Cancel
   shown::Control* Status = nullptr;
   /// The label of each field that has one; fields that take turns share it.
   std::map<const shown::Control*, shown::Control*> Labels;
+
+  /// What a control is called by a screen reader: by its own caption, by what the dialog declares, by its label, by the
+  /// frame that it stands in, else as the dialog. With the marks of access keys.
+  [[nodiscard]] std::string NameOf(const shown::Control& control) const;
 };
 
-[[nodiscard]] DialogPlan PlanDialog(const shown::Dialog& dialog);
+[[nodiscard]] Form FormOf(const shown::Dialog& dialog);
 
 }  // namespace orlin
