@@ -33,7 +33,8 @@ class AccountTable final : public ParameterTable {
   }
 
   std::string Open(std::size_t row) override {
-    const auto& parameter = account_.Parameters().at(row);
+    // Of its own: what is stored is a new list of parameters.
+    const auto parameter = account_.Parameters().at(row);
     try {
       return parameter.Name + ": " + Edit(row);
     } catch (const Failure& failure) {
