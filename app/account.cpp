@@ -85,7 +85,7 @@ Account::Account(std::filesystem::path file) : file_(std::move(file)) {
   if (!stream) FailWithError(file_, "read");
   try {
     Read({std::istreambuf_iterator<char>(stream), {}});
-    for (std::size_t i = 0; i < parameters_.size(); ++i) static_cast<void>(ArgumentsOf(i));
+    for (std::size_t i = 0; i < parameters_.size(); ++i) static_cast<void>(ValuesOf(i));
   } catch (const UsageError& error) {
     throw UsageError(file_.string() + ": " + error.what());
   }
@@ -120,7 +120,7 @@ void Account::Read(const std::string& text) try {
   throw UsageError(what.substr(std::min(what.find("] ") + 2, what.size())));
 }
 
-std::vector<Value> Account::ArgumentsOf(std::size_t parameter) const {
+std::vector<Value> Account::ValuesOf(std::size_t parameter) const {
   const auto& edited = parameters_.at(parameter);
   try {
     return BindArguments(*edited.Class, edited.Arguments, edited.Levels);
@@ -129,15 +129,15 @@ std::vector<Value> Account::ArgumentsOf(std::size_t parameter) const {
   }
 }
 
-bool Account::Store(std::size_t parameter, const std::vector<Value>& arguments) {
-  const auto before = ArgumentsOf(parameter);
+bool Account::Store(std::size_t parameter, const std::vector<Value>& values) {
+  const auto before = ValuesOf(parameter);
   const auto& known = parameters_.at(parameter).Class->Parameters();
   auto document = Json::parse(text_);
   auto& stored = document.at("parameters").at(parameter).at("arguments");
   bool different = false;
   for (std::size_t i = 0; i < known.size(); ++i) {
-    if (known[i].Name == kSecurityLevels || arguments.at(i) == before.at(i)) continue;
-    stored[known[i].Name] = FormatValue(arguments[i]);
+    if (known[i].Name == kSecurityLevels || values.at(i) == before.at(i)) continue;
+    stored[known[i].Name] = FormatValue(values[i]);
     different = true;
   }
   if (!different) return false;

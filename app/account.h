@@ -19,15 +19,16 @@ namespace orlin {
 ///         {
 ///           "name": "Zone 5, function code",
 ///           "class": "clsZoneFunctionsWillow",
-///           "arguments": {"ZoneNum": "5", "ZoneCode": "\"2035\""},
+///           "arguments": {"ZoneNum": "5", "ZoneCode": "\"5146\""},
 ///           "levels": []
 ///         }
 ///       ]
 ///     }
 ///
-/// An argument is written as on the command line, so that its kind is kept: 5 is an Integer, 5L a Long, 5D a Double,
-/// "\"5\"" a String, [1,0*7] an array. Those that are not there are empty, or 0. The levels of the account come before
-/// those of a parameter, "NAME=VIEW,EDIT" each. What else stands in the file stays there.
+/// The arguments hold what the host stores (see `PublicClass`), written as on the command line, so that their kind is
+/// kept: 5 is an Integer, 5L a Long, 5D a Double, "\"5\"" a String, [1,0*7] an array. Those that are not there are
+/// empty, or 0. The levels of the account come before those of a parameter, "NAME=VIEW,EDIT" each. What else stands in
+/// the file stays there.
 class Account {
  public:
   struct Parameter {
@@ -43,12 +44,13 @@ class Account {
   [[nodiscard]] const std::string& Panel() const noexcept { return panel_; }
   [[nodiscard]] const std::vector<Parameter>& Parameters() const noexcept { return parameters_; }
 
-  /// The arguments of the call that edits a parameter.
-  [[nodiscard]] std::vector<Value> ArgumentsOf(std::size_t parameter) const;
+  /// The values of a parameter as they are stored, one for each parameter of its class; for `SecurityLevels` the
+  /// rights.
+  [[nodiscard]] std::vector<Value> ValuesOf(std::size_t parameter) const;
 
   /// Stores what a confirmed call brought back. The file holds either the old values or the new ones, whatever happens
   /// meanwhile. Tells whether anything is different. `UsageError` where it cannot be written; then nothing changes.
-  bool Store(std::size_t parameter, const std::vector<Value>& arguments);
+  bool Store(std::size_t parameter, const std::vector<Value>& values);
 
  private:
   void Read(const std::string& text);

@@ -8,7 +8,6 @@
 #include "OrlinCustomDialogs/failure.h"
 
 #include "app/account.h"
-#include "app/account_rules.h"
 #include "app/installed_platform.h"
 #include "app/status.h"
 #include "app/usage_error.h"
@@ -47,13 +46,12 @@ class AccountTable final : public ParameterTable {
  private:
   std::string Edit(std::size_t row) {
     const auto& editor = *account_.Parameters().at(row).Class;
-    const auto kept = account_.ArgumentsOf(row);
-    auto arguments = ArgumentsForCall(editor, kept);
+    const auto stored = account_.ValuesOf(row);
+    auto arguments = editor.ArgumentsFrom(stored);
     const auto result = editor.Display(arguments);
     const auto told = "result " + std::to_string(result);
-    if (!Confirmed(editor, result, arguments)) return told + ", not changed";
-    return told + (account_.Store(row, RawValuesAfter(editor, kept, std::move(arguments))) ? ", stored"
-                                                                                           : ", the same as before");
+    if (!editor.Confirmed(result, arguments)) return told + ", not changed";
+    return told + (account_.Store(row, editor.StoredFrom(stored, arguments)) ? ", stored" : ", the same as before");
   }
 
   Account& account_;
@@ -85,7 +83,7 @@ void SavePictures(const Account& account, AccountOptions& options, const WindowO
   const InstalledPlatform installed(StandardPlatform(options.Platform));
   for (; row < account.Parameters().size(); ++row) {
     const auto& editor = *account.Parameters()[row].Class;
-    auto arguments = ArgumentsForCall(editor, account.ArgumentsOf(row));
+    auto arguments = editor.ArgumentsFrom(account.ValuesOf(row));
     static_cast<void>(editor.Display(arguments));
   }
 }

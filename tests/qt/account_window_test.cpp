@@ -93,8 +93,8 @@ TEST_F(AccountWindowTest, KeysAloneChangeOneParameterAfterTheOther) {
   EXPECT_EQ(Line, "Zone 5, code: result 0, stored");
   EXPECT_EQ(Rows, (std::vector<std::string>{"ZoneNum=5  ZoneCode=\"4146\"",
                                             "vName=Zone 12  vType=4  vOption=1  vTroubleOn=2"}));
-  EXPECT_EQ(Account(File).ArgumentsOf(0).at(1), "4146");
-  EXPECT_EQ(Account(File).ArgumentsOf(1).at(1), Value(std::int16_t{4}));
+  EXPECT_EQ(Account(File).ValuesOf(0).at(1), "4146");
+  EXPECT_EQ(Account(File).ValuesOf(1).at(1), Value(std::int16_t{4}));
 }
 
 }  // namespace
