@@ -2,11 +2,15 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "OrlinCustomDialogs/public_classes.h"
 #include "OrlinCustomDialogs/value.h"
+
+#include "app/usage_error.h"
 
 namespace orlin {
 
@@ -29,6 +33,8 @@ namespace orlin {
 /// kept: 5 is an Integer, 5L a Long, 5D a Double, "\"5\"" a String, [1,0*7] an array. Those that are not there are
 /// empty, or 0. The levels of the account come before those of a parameter, "NAME=VIEW,EDIT" each. What else stands in
 /// the file stays there.
+///
+/// Others may work on the file at the same time, also other processes.
 class Account {
  public:
   struct Parameter {
@@ -48,17 +54,32 @@ class Account {
   /// rights.
   [[nodiscard]] std::vector<Value> ValuesOf(std::size_t parameter) const;
 
-  /// Stores what a confirmed call brought back. The file holds either the old values or the new ones, whatever happens
-  /// meanwhile. Tells whether anything is different. `UsageError` where it cannot be written; then nothing changes.
+  /// Stores new values of a parameter in the file as it stands now, changing nothing else in it; no other writer can do
+  /// so meanwhile. The file holds either the old values or the new ones, whatever happens. From then on this account is
+  /// what stands there. Tells whether the file was changed, which needs values that are not in it.
+  ///
+  /// `ChangedMeanwhile` where another writer has given this parameter other values since it was read here.
+  /// `UsageError` where the file can no longer be read, has lost the parameter, or cannot be written; neither the file
+  /// nor this account changes.
   bool Store(std::size_t parameter, const std::vector<Value>& values);
 
  private:
-  void Read(const std::string& text);
+  Account(std::filesystem::path file, std::string text);
+  void Read();
+  [[nodiscard]] std::optional<std::size_t> SameAs(const Account& other, std::size_t parameter) const;
 
   std::filesystem::path file_;
   std::string text_;  // of the file
   std::string panel_;
   std::vector<Parameter> parameters_;
+};
+
+/// A parameter was not stored: it is no longer what it was when it was read.
+class ChangedMeanwhile : public UsageError {
+ public:
+  ChangedMeanwhile(const std::string& what, std::vector<Value> found) : UsageError(what), Found(std::move(found)) {}
+
+  std::vector<Value> Found;  ///< the values that stand there now
 };
 
 }  // namespace orlin

@@ -11,6 +11,8 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "OrlinCustomDialogs/controls.h"
 #include "OrlinCustomDialogs/dialog_host.h"
@@ -143,14 +145,79 @@ TEST_F(AccountTest, OkStoresTheNewValuesAndNothingElse) {
   EXPECT_EQ(account.ValuesOf(0).at(1), "5142");
 }
 
-TEST_F(AccountTest, WhatCannotBeStoredChangesNothing) {
-  const auto folder = Folder.Path() / "gone";
-  std::filesystem::create_directory(folder);
-  std::filesystem::rename(Write(kZone), folder / "account.json");
-  Account account(folder / "account.json");
-  std::filesystem::remove_all(folder);
-  EXPECT_THROW(Edit(account, 0, "select cmbDigit(3) 1\nclick cmdOK"), UsageError);
-  EXPECT_EQ(account.ValuesOf(0).at(1), "5146");
+constexpr const char* kZones =
+    R"({"name": "Zone", "class": "clsZoneFunctionsWillow", "arguments": {"ZoneNum": "5", "ZoneCode": "\"5146\""}},
+       {"name": "Zone", "class": "clsZoneFunctionsWillow", "arguments": {"ZoneNum": "6", "ZoneCode": "\"5146\""}})";
+
+std::vector<Value> Zone(int number, const char* code) { return {Integer(number), code}; }
+
+TEST_F(AccountTest, EachWriterChangesHisOwnParameterAlone) {
+  const auto file = Write(kZones);
+  Account one(file);
+  Account other(file);
+  EXPECT_TRUE(one.Store(0, Zone(5, "1111")));
+  EXPECT_TRUE(other.Store(1, Zone(6, "2111")));
+  EXPECT_EQ(other.ValuesOf(0), Zone(5, "1111")) << "read again";
+  EXPECT_EQ(Account(file).ValuesOf(0), Zone(5, "1111"));
+  // Both choose the same: nothing is lost.
+  EXPECT_FALSE(one.Store(1, Zone(6, "2111")));
+  EXPECT_TRUE(one.Store(1, Zone(6, "3111")));
+  try {
+    other.Store(1, Zone(6, "4111"));
+    ADD_FAILURE() << "the value of the first writer is lost";
+  } catch (const ChangedMeanwhile& error) {
+    EXPECT_EQ(error.Found, Zone(6, "3111"));
+  }
+  EXPECT_EQ(Account(file).ValuesOf(1), Zone(6, "3111"));
+  EXPECT_TRUE(other.Store(1, Zone(6, "4111"))) << "now that it is known";
+}
+
+TEST_F(AccountTest, FindsItsParameterInWhatTheFileHasBecome) {
+  const std::string gmt = R"({"name": "Zone", "class": "clsPanelGMT", "arguments": {}},)";
+  Account account(Write(kZones));
+  const auto moved = Write(gmt + kZones);
+  EXPECT_TRUE(account.Store(1, Zone(6, "2111")));
+  EXPECT_EQ(Account(moved).ValuesOf(1), Zone(5, "5146"));
+  EXPECT_EQ(Account(moved).ValuesOf(2), Zone(6, "2111"));
+
+  const auto lost = "no longer has this parameter";
+  for (const auto& [parameters, what] : {std::pair(std::string(kZone), lost), {gmt, "parse error"}, {"", lost}}) {
+    const auto content = ContentOf(Write(parameters));
+    try {
+      account.Store(2, Zone(6, "3111"));
+      ADD_FAILURE() << parameters;
+    } catch (const UsageError& error) {
+      EXPECT_NE(std::string(error.what()).find(what), std::string::npos) << error.what();
+    }
+    EXPECT_EQ(ContentOf(moved), content);
+    EXPECT_EQ(account.ValuesOf(2), Zone(6, "2111"));
+  }
+  std::filesystem::remove_all(Folder.Path());
+  EXPECT_THROW(account.Store(2, Zone(6, "3111")), UsageError);
+}
+
+TEST_F(AccountTest, ProcessesTakeTurns) {
+  const auto file = Write(kZones);
+  std::vector<pid_t> writers;
+  for (const std::size_t zone : {0, 1}) {
+    writers.push_back(fork());
+    if (writers.back() != 0) continue;
+    // A lost value comes to light with the next one: it is not what this writer knows.
+    try {
+      Account account(file);
+      for (int i = 1000; i < 1050; ++i) account.Store(zone, {account.ValuesOf(zone).front(), std::to_string(i)});
+      _exit(0);
+    } catch (const UsageError&) {
+      _exit(1);
+    }
+  }
+  for (const auto writer : writers) {
+    int status = 1;
+    EXPECT_EQ(waitpid(writer, &status, 0), writer);
+    EXPECT_EQ(status, 0);
+  }
+  for (const std::size_t zone : {0, 1}) EXPECT_EQ(Account(file).ValuesOf(zone).at(1), "1049");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Folder.Path()), {}), 1) << "nothing stands beside it";
 }
 
 TEST_F(AccountTest, TellsWhatMakesNoSense) {

@@ -97,5 +97,22 @@ TEST_F(AccountWindowTest, KeysAloneChangeOneParameterAfterTheOther) {
   EXPECT_EQ(Account(File).ValuesOf(1).at(1), Value(std::int16_t{4}));
 }
 
+TEST_F(AccountWindowTest, TellsInWordsWhatSomebodyElseHasStoredMeanwhile) {
+  auto steps = Keys({Qt::Key_Return, Qt::Key_Up, Qt::Key_Up});
+  steps.emplace_back([this] {
+    Account other(File);
+    other.Store(0, {std::int16_t{5}, "7146"});
+    other.Store(1, {"Zone 12", std::int16_t{8}, std::int16_t{1}, std::int16_t{2}, Value()});
+  });
+  for (auto& step : Keys({Qt::Key_Return})) steps.push_back(std::move(step));
+  Work(std::move(steps));
+  EXPECT_EQ(Line,
+            "Zone 5, code: not stored, it was changed by somebody else meanwhile. "
+            "Now in the file: Function code of zone 5: 7146; First digit: 7. Keyswitch zone. "
+            "Entered here: Function code of zone 5: 3146; First digit: 3. Burglary zone.");
+  EXPECT_EQ(Rows, (std::vector<std::string>{"ZoneNum=5  ZoneCode=\"7146\"",
+                                            "vName=Zone 12  vType=8  vOption=1  vTroubleOn=2"}));
+}
+
 }  // namespace
 }  // namespace orlin::testing
