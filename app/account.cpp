@@ -1,6 +1,7 @@
 #include "app/account.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -10,11 +11,11 @@
 
 #include <fcntl.h>
 #include <nlohmann/json.hpp>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "app/arguments.h"
-#include "app/usage_error.h"
 #include "app/value_format.h"
 
 namespace orlin {
@@ -41,6 +42,50 @@ class Descriptor {
   int number_;
 };
 
+/// A file that no other writer changes as long as this lives. Locked is the file itself, so that nothing has to stand
+/// beside it. Every writer puts another file in its place: the lock counts where the name still leads to this one.
+class LockedFile {
+ public:
+  explicit LockedFile(const std::filesystem::path& file) {
+    do {
+      Open(file);
+      while (flock(opened_->Number(), LOCK_EX) != 0) {
+        if (errno != EINTR) FailWithError(file, "lock");
+      }
+    } while (!IsNamed(file));
+    std::array<char, 65536> part{};
+    for (;;) {
+      const auto length = read(opened_->Number(), part.data(), part.size());
+      if (length < 0 && errno == EINTR) continue;
+      if (length < 0) FailWithError(file, "read");
+      if (length == 0) break;
+      text_.append(part.data(), static_cast<std::size_t>(length));
+    }
+  }
+
+  [[nodiscard]] const std::string& Text() const noexcept { return text_; }
+
+ private:
+  /// For writing where it may be: over a network only such a file can be locked.
+  void Open(const std::filesystem::path& file) {
+    opened_.emplace(open(file.c_str(), O_RDWR | O_CLOEXEC));
+    if (opened_->Number() < 0 && (errno == EACCES || errno == EROFS)) {
+      opened_.emplace(open(file.c_str(), O_RDONLY | O_CLOEXEC));
+    }
+    if (opened_->Number() < 0) FailWithError(file, "read");
+  }
+
+  [[nodiscard]] bool IsNamed(const std::filesystem::path& file) const {
+    struct stat locked {};
+    struct stat named {};
+    return fstat(opened_->Number(), &locked) == 0 && stat(file.c_str(), &named) == 0 && locked.st_dev == named.st_dev &&
+           locked.st_ino == named.st_ino;
+  }
+
+  std::optional<Descriptor> opened_;
+  std::string text_;
+};
+
 bool WriteAll(int descriptor, std::string_view text) {
   while (!text.empty()) {
     const auto written = write(descriptor, text.data(), text.size());
@@ -58,7 +103,7 @@ void Replace(const std::filesystem::path& named, std::string_view text) {
   auto file = std::filesystem::canonical(named, ignored);
   if (ignored) file = named;
   auto temporary = file.string() + ".XXXXXX";
-  const Descriptor written(mkstemp(temporary.data()));
+  const Descriptor written(mkostemp(temporary.data(), O_CLOEXEC));
   if (written.Number() < 0) FailWithError(file, "write beside");
   struct stat old {};
   const bool kept = stat(file.c_str(), &old) != 0 || fchmod(written.Number(), old.st_mode & 07777) == 0;
@@ -70,31 +115,49 @@ void Replace(const std::filesystem::path& named, std::string_view text) {
     FailWithError(file, "write");
   }
   const auto folder = file.has_parent_path() ? file.parent_path() : std::filesystem::path(".");
-  const Descriptor directory(open(folder.c_str(), O_RDONLY | O_DIRECTORY));
+  const Descriptor directory(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (directory.Number() >= 0) fsync(directory.Number());
+}
+
+std::string TextOf(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream) FailWithError(file, "read");
+  return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 std::vector<std::string> Texts(const Json& object, const char* name) {
   return object.contains(name) ? object.at(name).get<std::vector<std::string>>() : std::vector<std::string>();
 }
 
+/// The text of an account with new values of one of its parameters.
+std::string WithValues(const std::string& text, std::size_t parameter, const PublicClass& editor,
+                       const std::vector<Value>& values, const std::vector<std::size_t>& different) {
+  auto document = Json::parse(text);
+  auto& stored = document.at("parameters").at(parameter).at("arguments");
+  for (const auto i : different) stored[editor.Parameters()[i].Name] = FormatValue(values[i]);
+  try {
+    return document.dump(2) + '\n';
+  } catch (const nlohmann::json::exception& error) {
+    throw UsageError(error.what());
+  }
+}
+
 }  // namespace
 
-Account::Account(std::filesystem::path file) : file_(std::move(file)) {
-  std::ifstream stream(file_, std::ios::binary);
-  if (!stream) FailWithError(file_, "read");
+Account::Account(std::filesystem::path file) : Account(file, TextOf(file)) {}
+
+Account::Account(std::filesystem::path file, std::string text) : file_(std::move(file)), text_(std::move(text)) {
   try {
-    Read({std::istreambuf_iterator<char>(stream), {}});
-    for (std::size_t i = 0; i < parameters_.size(); ++i) static_cast<void>(ArgumentsOf(i));
+    Read();
+    for (std::size_t i = 0; i < parameters_.size(); ++i) static_cast<void>(ValuesOf(i));
   } catch (const UsageError& error) {
     throw UsageError(file_.string() + ": " + error.what());
   }
 }
 
-void Account::Read(const std::string& text) try {
-  const auto document = Json::parse(text);
+void Account::Read() try {
+  const auto document = Json::parse(text_);
   const auto common = Texts(document, "levels");
-  std::vector<Parameter> parameters;
   for (const auto& entry : document.at("parameters")) {
     Parameter parameter;
     parameter.Name = entry.at("name").get<std::string>();
@@ -109,46 +172,58 @@ void Account::Read(const std::string& text) try {
     }
     parameter.Levels = common;
     for (auto& level : Texts(entry, "levels")) parameter.Levels.push_back(std::move(level));
-    parameters.push_back(std::move(parameter));
+    parameters_.push_back(std::move(parameter));
   }
   panel_ = document.at("panel").get<std::string>();
-  parameters_ = std::move(parameters);
-  text_ = text;
 } catch (const nlohmann::json::exception& error) {
   // Without the mark of the library in front of it.
   const std::string what = error.what();
   throw UsageError(what.substr(std::min(what.find("] ") + 2, what.size())));
 }
 
-std::vector<Value> Account::ArgumentsOf(std::size_t parameter) const {
-  const auto& edited = parameters_.at(parameter);
+std::vector<Value> Account::ValuesOf(std::size_t parameter) const {
+  const auto& stored = parameters_.at(parameter);
   try {
-    return BindArguments(*edited.Class, edited.Arguments, edited.Levels);
+    return BindArguments(*stored.Class, stored.Arguments, stored.Levels);
   } catch (const UsageError& error) {
-    throw UsageError(edited.Name + ": " + error.what());
+    throw UsageError(stored.Name + ": " + error.what());
   }
 }
 
-bool Account::Store(std::size_t parameter, const std::vector<Value>& arguments) {
-  const auto before = ArgumentsOf(parameter);
-  const auto& known = parameters_.at(parameter).Class->Parameters();
-  auto document = Json::parse(text_);
-  auto& stored = document.at("parameters").at(parameter).at("arguments");
-  bool different = false;
-  for (std::size_t i = 0; i < known.size(); ++i) {
-    if (known[i].Name == kSecurityLevels || arguments.at(i) == before.at(i)) continue;
-    stored[known[i].Name] = FormatValue(arguments[i]);
-    different = true;
+/// Which parameter here is one of another reading of the account. Its place may be another; names may be there twice.
+std::optional<std::size_t> Account::SameAs(const Account& other, std::size_t parameter) const {
+  const auto& wanted = other.parameters_.at(parameter);
+  const auto isAlike = [&wanted](const Parameter& one) { return one.Name == wanted.Name && one.Class == wanted.Class; };
+  const auto end = other.parameters_.begin() + static_cast<std::ptrdiff_t>(parameter);
+  auto before = std::count_if(other.parameters_.begin(), end, isAlike);
+  for (std::size_t i = 0; i < parameters_.size(); ++i) {
+    if (isAlike(parameters_[i]) && before-- == 0) return i;
   }
-  if (!different) return false;
-  std::string text;
-  try {
-    text = document.dump(2) + '\n';
-  } catch (const nlohmann::json::exception& error) {
-    throw UsageError(error.what());
+  return std::nullopt;
+}
+
+bool Account::Store(std::size_t parameter, const std::vector<Value>& values) {
+  const auto& editor = *parameters_.at(parameter).Class;
+  const auto before = ValuesOf(parameter);
+  if (DifferentPlaces(editor, before, values).empty()) return false;
+
+  const LockedFile locked(file_);
+  Account now(file_, locked.Text());
+  const auto place = now.SameAs(*this, parameter);
+  if (!place) throw UsageError(file_.string() + " no longer has this parameter");
+  const auto found = now.ValuesOf(*place);
+  const auto different = DifferentPlaces(editor, found, values);
+  if (different.empty()) {
+    *this = std::move(now);
+    return false;
   }
-  Replace(file_, text);
-  Read(text);
+  if (!DifferentPlaces(editor, found, before).empty()) {
+    *this = std::move(now);
+    throw ChangedMeanwhile("it was changed by somebody else meanwhile", found);
+  }
+  Account after(file_, WithValues(now.text_, *place, editor, values, different));
+  Replace(file_, after.text_);
+  *this = std::move(after);
   return true;
 }
 

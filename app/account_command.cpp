@@ -1,17 +1,19 @@
 #include "app/account_command.h"
 
-#include <algorithm>
 #include <cstdlib>
+#include <exception>
 #include <string>
 #include <utility>
 
 #include "OrlinCustomDialogs/failure.h"
 
 #include "app/account.h"
-#include "app/account_rules.h"
+#include "app/arguments.h"
+#include "app/describer.h"
+#include "app/description_output.h"
 #include "app/installed_platform.h"
 #include "app/status.h"
-#include "app/usage_error.h"
+#include "app/value_format.h"
 
 namespace orlin {
 namespace {
@@ -19,7 +21,9 @@ namespace {
 /// The parameters of an account, each opened in its editor.
 class AccountTable final : public ParameterTable {
  public:
-  explicit AccountTable(Account& account) : account_(account) {}
+  /// The platform has a host that shows windows. `PlatformError` where it makes no sense.
+  AccountTable(Account& account, StandardPlatformOptions platform)
+      : account_(account), options_(std::move(platform)), windows_(StandardPlatform(options_)) {}
 
   [[nodiscard]] std::string Title() const override { return "Account of panel " + account_.Panel(); }
   [[nodiscard]] std::vector<std::string> Columns() const override { return {"Parameter", "Editor", "Raw values"}; }
@@ -33,29 +37,59 @@ class AccountTable final : public ParameterTable {
   }
 
   std::string Open(std::size_t row) override {
-    const auto& parameter = account_.Parameters().at(row);
+    // Of its own: what is stored is a new list of parameters.
+    const auto parameter = account_.Parameters().at(row);
     try {
-      return parameter.Name + ": " + Edit(row);
+      return parameter.Name + ": " + Edit(row, *parameter.Class);
     } catch (const Failure& failure) {
       return parameter.Name + ": failure " + std::to_string(failure.Number()) + ", " + failure.Description();
-    } catch (const UsageError& error) {
+    } catch (const std::exception& error) {
+      // Nothing is thrown through the window.
       return parameter.Name + ": not stored, " + error.what();
     }
   }
 
  private:
-  std::string Edit(std::size_t row) {
-    const auto& editor = *account_.Parameters().at(row).Class;
-    const auto kept = account_.ArgumentsOf(row);
-    auto arguments = ArgumentsForCall(editor, kept);
-    const auto result = editor.Display(arguments);
+  std::string Edit(std::size_t row, const PublicClass& editor) {
+    const auto stored = account_.ValuesOf(row);
+    auto arguments = editor.ArgumentsFrom(stored);
+    const auto result = Display(editor, arguments);
     const auto told = "result " + std::to_string(result);
-    if (!Confirmed(editor, result, arguments)) return told + ", not changed";
-    return told + (account_.Store(row, RawValuesAfter(editor, kept, std::move(arguments))) ? ", stored"
-                                                                                           : ", the same as before");
+    if (!editor.Confirmed(result, arguments)) return told + ", not changed";
+    const auto values = editor.StoredFrom(stored, arguments);
+    try {
+      return told + (account_.Store(row, values) ? ", stored" : ", the same as before");
+    } catch (const ChangedMeanwhile& error) {
+      const auto [there, here] = Words(editor, error.Found, values);
+      return std::string("not stored, ") + error.what() + ". Now in the file: " + there + ". Entered here: " + here +
+             '.';
+    }
+  }
+
+  std::int32_t Display(const PublicClass& editor, std::vector<Value>& arguments) const {
+    const InstalledPlatform installed(windows_);
+    return editor.Display(arguments);
+  }
+
+  /// What two sets of values mean, as far as it differs; the values themselves where it does not.
+  [[nodiscard]] std::pair<std::string, std::string> Words(const PublicClass& editor, const std::vector<Value>& a,
+                                                          const std::vector<Value>& b) const {
+    Describer describer(options_);
+    auto words = DifferentWords(describer.Describe(editor, a, ValueForm::Stored),
+                                describer.Describe(editor, b, ValueForm::Stored));
+    if (words.first != words.second) return words;
+    words = {};
+    for (const auto i : DifferentPlaces(editor, a, b)) {
+      const auto name = (words.first.empty() ? "" : "; ") + editor.Parameters()[i].Name + '=';
+      words.first.append(name).append(FormatValue(a[i]));
+      words.second.append(name).append(FormatValue(b[i]));
+    }
+    return words;
   }
 
   Account& account_;
+  StandardPlatformOptions options_;
+  Platform windows_;
 };
 
 /// The file of a parameter's picture: "Zone 5, code" becomes "zone-5-code".
@@ -84,7 +118,7 @@ void SavePictures(const Account& account, AccountOptions& options, const WindowO
   const InstalledPlatform installed(StandardPlatform(options.Platform));
   for (; row < account.Parameters().size(); ++row) {
     const auto& editor = *account.Parameters()[row].Class;
-    auto arguments = ArgumentsForCall(editor, account.ArgumentsOf(row));
+    auto arguments = editor.ArgumentsFrom(account.ValuesOf(row));
     static_cast<void>(editor.Display(arguments));
   }
 }
@@ -99,8 +133,7 @@ int ShowAccount(AccountOptions options, const WindowOpener& windows) {
   }
   auto& system = windows();
   options.Platform.Host = system.Windows();
-  const InstalledPlatform installed(StandardPlatform(options.Platform));
-  AccountTable table(account);
+  AccountTable table(account, std::move(options.Platform));
   system.ShowTable(table);
   return status::Done;
 }

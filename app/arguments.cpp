@@ -109,4 +109,13 @@ std::vector<Value> BindArguments(const PublicClass& publicClass, const std::vect
   return arguments;
 }
 
+std::vector<std::size_t> DifferentPlaces(const PublicClass& publicClass, const std::vector<Value>& a,
+                                         const std::vector<Value>& b) {
+  std::vector<std::size_t> different;
+  for (std::size_t i = 0; i < publicClass.Parameters().size(); ++i) {
+    if (publicClass.Parameters()[i].Name != kSecurityLevels && a.at(i) != b.at(i)) different.push_back(i);
+  }
+  return different;
+}
+
 }  // namespace orlin

@@ -25,4 +25,8 @@ inline constexpr const char* kSecurityLevels = "SecurityLevels";
 [[nodiscard]] std::vector<Value> BindArguments(const PublicClass& publicClass, const std::vector<std::string>& named,
                                                const std::vector<std::string>& levels);
 
+/// Where two lists of arguments are different, counted from 0. The rights do not count.
+[[nodiscard]] std::vector<std::size_t> DifferentPlaces(const PublicClass& publicClass, const std::vector<Value>& a,
+                                                       const std::vector<Value>& b);
+
 }  // namespace orlin

@@ -13,13 +13,20 @@ std::optional<std::int32_t> Outcome::Failure() const {
   return std::nullopt;
 }
 
-Outcome Call(const PublicClass& publicClass, std::vector<Value> arguments) {
+Outcome Call(const PublicClass& publicClass, std::vector<Value> values, ValueForm form) {
+  const bool stored = form == ValueForm::Stored;
   Outcome outcome;
-  outcome.Arguments = std::move(arguments);
+  auto arguments = stored ? publicClass.ArgumentsFrom(values) : std::move(values);
   try {
-    outcome.Result = publicClass.Display(outcome.Arguments);
+    outcome.Result = publicClass.Display(arguments);
+    outcome.Confirmed = publicClass.Confirmed(*outcome.Result, arguments);
   } catch (const Failure& failure) {
     outcome.Raised = failure.Number();
+  }
+  if (!stored) {
+    outcome.Arguments = std::move(arguments);
+  } else {
+    outcome.Arguments = outcome.Confirmed ? publicClass.StoredFrom(std::move(values), arguments) : std::move(values);
   }
   return outcome;
 }

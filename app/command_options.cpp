@@ -40,10 +40,12 @@ void AddPlatform(CLI::App& command, StandardPlatformOptions& options) {
   add("--fault-file", "FILE", options.FaultFile, "Where faults are appended");
 }
 
-void AddCall(CLI::App& command, std::string& className, std::vector<std::string>& arguments,
+void AddCall(CLI::App& command, std::string& className, std::vector<std::string>& arguments, ValueForm& form,
              std::vector<std::string>& levels) {
   command.add_option("CLASS", className, "A public class; orlin-host list names them")->type_name("");
   command.add_option("NAME=VALUE", arguments, "Arguments of the call; what is not named is empty, or 0")->type_name("");
+  command.add_flag_callback(
+      "--stored", [&form] { form = ValueForm::Stored; }, "Values are as a host stores them");
   command.add_option("--level", levels, "A record of SecurityLevels; repeatable, in this order")
       ->type_name("NAME=VIEW,EDIT")
       ->allow_extra_args(false)
@@ -67,7 +69,7 @@ void AddList(CLI::App& command, ListOptions& options) {
 }
 
 void AddDescribe(CLI::App& command, DescribeOptions& options) {
-  AddCall(command, options.Class, options.Arguments, options.Levels);
+  AddCall(command, options.Class, options.Arguments, options.Form, options.Levels);
   AddOption(command, "Options", "--account", "FILE", options.Account,
             "Every parameter of this account in place of one class");
   AddJson(command, options.Json, "parameter");
@@ -81,7 +83,7 @@ void AddDescribe(CLI::App& command, DescribeOptions& options) {
 }
 
 void AddEdit(CLI::App& command, EditOptions& options) {
-  AddCall(command, options.Class, options.Arguments, options.Levels);
+  AddCall(command, options.Class, options.Arguments, options.Form, options.Levels);
   command.get_option("CLASS")->required();
   AddOption(command, kOperator, "--script", "FILE", options.Script,
             "The operator is this script; - for standard input");

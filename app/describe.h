@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "app/call.h"
 #include "standard_platform.h"
 
 namespace orlin {
@@ -14,7 +15,8 @@ struct DescribeOptions {
   std::optional<std::string> Account;  ///< describes the parameters of this file in place of one class
   std::string Class;
   std::vector<std::string> Arguments;  ///< NAME=VALUE
-  std::vector<std::string> Levels;     ///< NAME=VIEW,EDIT
+  ValueForm Form = ValueForm::Arguments;
+  std::vector<std::string> Levels;  ///< NAME=VIEW,EDIT
   bool Json = false;
   StandardPlatformOptions Platform;
 };

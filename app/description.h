@@ -78,6 +78,7 @@ struct Description {
   std::string Title;
   std::vector<ToldControl> Controls;  ///< in the order of the dialog
   std::vector<Note> Notes;
+  bool Failed = false;  ///< the call ended with a failure
 };
 
 /// The controls of a dialog that can be seen. Buttons, timers and what only helps the operator on are left out.

@@ -3,6 +3,7 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <utility>
 
 #include "app/description.h"
 
@@ -14,5 +15,9 @@ void PrintText(const Description& description, const std::optional<std::string>&
 
 /// Prints a description for programs: a JSON object on one line.
 void PrintJson(const Description& description, const std::optional<std::string>& name, std::ostream& out);
+
+/// What two descriptions of one parameter tell differently, in one line each, such as "First digit: 5. Medical zone;
+/// Second digit: 1. Instant". All that they tell where one of them tells nothing of its own.
+[[nodiscard]] std::pair<std::string, std::string> DifferentWords(const Description& a, const Description& b);
 
 }  // namespace orlin

@@ -75,6 +75,22 @@ std::vector<std::string> LinesOf(told::Table table) {
   return lines;
 }
 
+std::string OneLine(std::string_view text) {
+  std::string line;
+  for (const auto& part : LinesOf(text)) {
+    if (!part.empty()) line.append(line.empty() ? "" : " ").append(part);
+  }
+  return line;
+}
+
+std::string Joined(const std::vector<std::string>& parts, std::string_view between) {
+  std::string all;
+  for (const auto& part : parts) {
+    if (const auto line = OneLine(part); !line.empty()) all.append(all.empty() ? "" : between).append(line);
+  }
+  return all;
+}
+
 /// One entry of the form: a caption, and what stands beside it or, where it is wide, below it.
 struct Entry {
   std::string Caption;
@@ -102,6 +118,20 @@ class Form {
       if (IsBeside(entry)) width = std::max(width, Indent(entry.Depth).size() + Width(entry.Caption) + 1);
     }
     for (const auto& entry : entries_) Print(entry, width, out);
+  }
+
+  /// Each entry that has something to tell as a line of its own; those of a table are its rows.
+  [[nodiscard]] std::vector<std::string> Words() const {
+    std::vector<std::string> words;
+    for (const auto& entry : entries_) {
+      const auto start = entry.Caption.empty() ? "" : OneLine(entry.Caption) + ": ";
+      if (entry.Below) {
+        for (const auto& line : entry.Lines) words.push_back(start + OneLine(line));
+      } else if (!entry.Lines.empty()) {
+        words.push_back(start + Joined(entry.Lines, ", "));
+      }
+    }
+    return words;
   }
 
  private:
@@ -174,19 +204,26 @@ class Form {
   bool anyOption_ = false;
 };
 
-std::string OneLine(std::string_view text) {
-  std::string line;
-  for (const auto& part : LinesOf(text)) {
-    if (!part.empty()) line.append(line.empty() ? "" : " ").append(part);
-  }
-  return line;
-}
-
 std::string Told(const Note& note, bool shown) {
   if (!note.Failure) return "message: " + OneLine(note.Text);
   std::string told = (shown ? "failure " : "cannot be shown: failure ") + std::to_string(*note.Failure);
   if (!note.Where.empty()) told.append(" in ").append(note.Where);
   return told + ", " + OneLine(note.Text);
+}
+
+std::vector<std::string> Words(const Description& description) {
+  auto words = Form(description.Controls).Words();
+  for (const auto& note : description.Notes) words.push_back(Told(note, description.Dialog.has_value()));
+  return words;
+}
+
+/// Those of `words` that are not among the others.
+std::vector<std::string> Without(std::vector<std::string> words, const std::vector<std::string>& others) {
+  const auto isThere = [&](const std::string& line) {
+    return std::find(others.begin(), others.end(), line) != others.end();
+  };
+  words.erase(std::remove_if(words.begin(), words.end(), isThere), words.end());
+  return words;
 }
 
 }  // namespace
@@ -198,6 +235,14 @@ void PrintText(const Description& description, const std::optional<std::string>&
   const bool shown = description.Dialog.has_value();
   for (const auto& note : description.Notes) out << "  ! " << Told(note, shown) << '\n';
   if (!shown && description.Notes.empty()) out << "  ! the dialog has nothing to show\n";
+}
+
+std::pair<std::string, std::string> DifferentWords(const Description& a, const Description& b) {
+  constexpr std::string_view between = "; ";
+  const auto all = std::pair(Words(a), Words(b));
+  const auto own = std::pair(Without(all.first, all.second), Without(all.second, all.first));
+  const auto& told = own.first.empty() || own.second.empty() ? all : own;
+  return {Joined(told.first, between), Joined(told.second, between)};
 }
 
 }  // namespace orlin

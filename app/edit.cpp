@@ -7,7 +7,6 @@
 #include <system_error>
 #include <utility>
 
-#include "app/account_rules.h"
 #include "app/arguments.h"
 #include "app/installed_platform.h"
 #include "app/status.h"
@@ -65,19 +64,19 @@ ScriptedHost HostFor(ScriptedCall& call, Trace& trace) {
 }
 
 /// The operator sits in front of the screen; what comes back is told at the end.
-Outcome RunInWindows(const PublicClass& publicClass, std::vector<Value> arguments, StandardPlatformOptions platform,
-                     WindowSystem& windows, std::ostream& out) {
+Outcome RunInWindows(const PublicClass& publicClass, std::vector<Value> values, ValueForm form,
+                     StandardPlatformOptions platform, WindowSystem& windows, std::ostream& out) {
   platform.Host = windows.Windows();
   const InstalledPlatform installed(StandardPlatform(platform));
-  auto outcome = Call(publicClass, std::move(arguments));
+  auto outcome = Call(publicClass, std::move(values), form);
   Trace trace(out);
   Tell(trace, publicClass, outcome);
   return outcome;
 }
 
-int StatusOf(const PublicClass& publicClass, const Outcome& outcome) {
+int StatusOf(const Outcome& outcome) {
   if (outcome.Failure()) return status::Failed;
-  return Confirmed(publicClass, *outcome.Result, outcome.Arguments) ? status::Done : status::NotConfirmed;
+  return outcome.Confirmed ? status::Done : status::NotConfirmed;
 }
 
 }  // namespace
@@ -90,7 +89,7 @@ Outcome Run(ScriptedCall call, std::ostream& out) {
     trace.FaultLogged(fault.Number, fault.Module, fault.Procedure, fault.AdditionalText, fault.Shown);
   };
   const InstalledPlatform installed(StandardPlatform(call.Platform));
-  auto outcome = Call(call.Class, std::move(call.Arguments));
+  auto outcome = Call(call.Class, std::move(call.Arguments), call.Form);
   host.Finish();
   Tell(trace, call.Class, outcome);
   return outcome;
@@ -98,19 +97,17 @@ Outcome Run(ScriptedCall call, std::ostream& out) {
 
 int Edit(const EditOptions& options, std::istream& in, std::ostream& out, const WindowOpener& windows) {
   const auto& publicClass = ClassNamed(options.Class);
-  auto arguments = BindArguments(publicClass, options.Arguments, options.Levels);
+  auto values = BindArguments(publicClass, options.Arguments, options.Levels);
   const bool inWindows =
       options.Host.value_or(options.Script ? HostKind::Script : HostKind::Windows) == HostKind::Windows;
   if (!inWindows && !options.Script) throw UsageError("--host script wants --script FILE");
   WindowSystem* const system = inWindows ? &windows() : nullptr;
-  const auto statusOf = [&](const Outcome& outcome) {
-    return options.ExitStatus ? StatusOf(publicClass, outcome) : status::Done;
-  };
+  const auto statusOf = [&](const Outcome& outcome) { return options.ExitStatus ? StatusOf(outcome) : status::Done; };
   if (!options.Script) {
-    return statusOf(RunInWindows(publicClass, std::move(arguments), options.Platform, *system, out));
+    return statusOf(RunInWindows(publicClass, std::move(values), options.Form, options.Platform, *system, out));
   }
-  ScriptedCall call{publicClass,    std::move(arguments), ReadScript(*options.Script, in),
-                    options.Strict, options.Platform,     system};
+  ScriptedCall call{publicClass, std::move(values), ReadScript(*options.Script, in), options.Strict, options.Platform,
+                    system,      options.Form};
   try {
     return statusOf(Run(std::move(call), out));
   } catch (const StrictRefusal&) {

@@ -21,8 +21,9 @@ enum class HostKind { Script, Windows };
 struct EditOptions {
   std::string Class;
   std::vector<std::string> Arguments;  ///< NAME=VALUE
-  std::vector<std::string> Levels;     ///< NAME=VIEW,EDIT
-  std::optional<std::string> Script;   ///< a file, or "-" for standard input
+  ValueForm Form = ValueForm::Arguments;
+  std::vector<std::string> Levels;    ///< NAME=VIEW,EDIT
+  std::optional<std::string> Script;  ///< a file, or "-" for standard input
   std::optional<HostKind> Host;
   StandardPlatformOptions Platform;
   bool ExitStatus = false;
@@ -41,6 +42,7 @@ struct ScriptedCall {
   bool Strict = false;
   StandardPlatformOptions Platform;
   WindowSystem* Windows = nullptr;  ///< the operator works these windows; null: there is no screen
+  ValueForm Form = ValueForm::Arguments;
 };
 
 /// Makes the call, with a trace on `out`. Throws `StrictRefusal` (see `ScriptPlayer`), and `PlatformError`.

@@ -29,7 +29,8 @@ void ScriptedDisplay(benchmark::State& state, const char* name, const std::vecto
     UsePlatform(StandardPlatform(options));
     auto values = arguments;
     state.ResumeTiming();
-    if (publicClass->Display(values) != 0) state.SkipWithError("the operator did not get to OK");
+    if (!publicClass->Confirmed(publicClass->Display(values), values))
+      state.SkipWithError("the operator did not get to OK");
   }
   UsePlatform({});
 }

@@ -24,7 +24,6 @@
 #include <vector>
 
 #include "app/account.h"
-#include "app/account_rules.h"
 #include "app/installed_platform.h"
 #include "qt/dialog_window.h"
 #include "qt/open_windows.h"
@@ -237,7 +236,7 @@ void Measure(const Account& account, const std::string& only) {
     options.Host = host;
     const InstalledPlatform installed(StandardPlatform(options));
     for (int round = 0; round < kRounds; ++round) {
-      auto arguments = ArgumentsForCall(*parameter.Class, account.ArgumentsOf(i));
+      auto arguments = parameter.Class->ArgumentsFrom(account.ValuesOf(i));
       host->StartCall();
       static_cast<void>(parameter.Class->Display(arguments));
     }

@@ -3,7 +3,7 @@
 run_packages=(g++ cmake ninja-build pkg-config libcli11-dev nlohmann-json3-dev libsqlite3-dev unixodbc-dev)
 window_packages=(qt6-base-dev)
 test_packages=("${run_packages[@]}" "${window_packages[@]}" libgtest-dev libbenchmark-dev
-  postgresql odbc-postgresql libsqliteodbc)
+  postgresql odbc-postgresql libsqliteodbc xvfb xdotool)
 
 say() { printf '%s\n' "$*" >&2; }
 

@@ -5,7 +5,6 @@
 #include <memory>
 #include <vector>
 
-#include "OrlinCustomDialogs/exports.h"
 #include "OrlinCustomDialogs/platform/standard_platform.h"
 #include "OrlinCustomDialogs/public_classes.h"
 #include "OrlinCustomDialogs/security_levels.h"
@@ -52,16 +51,16 @@ int main() {
   orlin::Value type{std::int16_t{3}};
   orlin::Value response{std::int16_t{0}};
   orlin::Value troubleOn{std::int16_t{2}};
-  const auto result = orlin::clsZoneFunctionsBirch().Display("Zone 7", type, response, troubleOn, levels);
-  std::cout << "Result " << result << ": type " << *type.Get<std::int16_t>() << ", response "
+  const auto outcome = orlin::clsZoneFunctionsBirch().Display("Zone 7", type, response, troubleOn, levels);
+  std::cout << "Result " << outcome << ": type " << *type.Get<std::int16_t>() << ", response "
             << *response.Get<std::int16_t>() << ", trouble on " << *troubleOn.Get<std::int16_t>() << '\n';
 
-  // By name, as a host does that learns from its data which editor a parameter has.
-  DllRegisterServer();
-  const auto editor = std::dynamic_pointer_cast<orlin::LateBoundObject>(
-      orlin::CreateObject("OrlinCustomDialogs.clsZoneFunctionsWillow"));
-  std::vector<orlin::Value> arguments{std::int16_t{5}, "4000"};
-  if (editor->Invoke("Display", arguments) == orlin::Value(0)) {
-    std::cout << "Zone 5: " << *arguments[1].Get<std::string>() << '\n';
-  }
+  // By name, as a host does that learns from its data which editor a parameter has. The class knows the rest: what it
+  // takes for the values that are stored, whether the operator confirmed, and what to store then.
+  std::vector<orlin::Value> stored{std::int16_t{5}, "5111"};  // ZoneNum and ZoneCode
+  const auto& editor = *orlin::FindPublicClass("clsZoneFunctionsWillow");
+  auto arguments = editor.ArgumentsFrom(stored);
+  const auto result = editor.Display(arguments);
+  if (editor.Confirmed(result, arguments)) stored = editor.StoredFrom(stored, arguments);
+  std::cout << "Zone 5: " << *stored[1].Get<std::string>() << '\n';
 }

@@ -15,6 +15,7 @@
 #include "qt/form_layout.h"
 #include "qt/keys.h"
 #include "qt/passive_edit.h"
+#include "qt/stand_over.h"
 #include "qt/texts.h"
 #include "qt/views.h"
 
@@ -26,9 +27,10 @@ constexpr double kMostOfScreen = 0.9;
 }  // namespace
 
 DialogWindow::DialogWindow(shown::Dialog& dialog, Timers timers, QWidget* parent)
-    : QDialog(parent), dialog_(dialog), timers_(timers), form_(FormOf(dialog)) {
+    : QDialog(dynamic_cast<DialogWindow*>(parent)), dialog_(dialog), timers_(timers), form_(FormOf(dialog)) {
   setWindowModality(Qt::ApplicationModal);
   setFocusPolicy(Qt::StrongFocus);
+  StandOver(*this, parent);
   body_ = new QWidget(this);
   MakeViews(*body_);
   Present();
@@ -128,6 +130,7 @@ void DialogWindow::Do(const std::function<Refusal()>& action) {
     thrown_ = std::current_exception();
   }
   busy_ = false;
+  if (closing_) dialog_.Close();
   Present();
   if (!dialog_.IsShown() || thrown_) loop_.quit();
 }
@@ -282,11 +285,13 @@ void DialogWindow::showEvent(QShowEvent* event) {
 }
 
 void DialogWindow::closeEvent(QCloseEvent* event) {
-  event->ignore();
   CloseBox();
+  // A window that refused would keep an application from quitting.
+  event->setAccepted(closing_ || !dialog_.IsShown());
 }
 
 void DialogWindow::CloseBox() {
+  closing_ = busy_;
   Do([this]() -> Refusal {
     dialog_.Close();
     return {};

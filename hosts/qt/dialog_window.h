@@ -23,7 +23,7 @@ class DialogWindow final : public QDialog, public Desk {
  public:
   enum class Timers { Run, Stand };
 
-  /// The dialog outlives the window.
+  /// The dialog outlives the window, and so does a parent that is a `DialogWindow`; any other may go before.
   DialogWindow(shown::Dialog& dialog, Timers timers, QWidget* parent);
 
   /// Plans for a screen of that size instead of the one that is there.
@@ -36,6 +36,9 @@ class DialogWindow final : public QDialog, public Desk {
 
   void Do(const std::function<Refusal()>& action) override;
   [[nodiscard]] bool RunsTimers() const override { return timers_ == Timers::Run; }
+
+  /// Whether the window has been closed under a handler, and the dialog ends when that returns.
+  [[nodiscard]] bool Closing() const { return closing_; }
 
   /// Brings all widgets up to date.
   void Present();
@@ -81,6 +84,7 @@ class DialogWindow final : public QDialog, public Desk {
   bool stretches_ = false;
   bool presenting_ = false;
   bool busy_ = false;
+  bool closing_ = false;
   QSize fitted_;
   QSize room_;  // of another screen; invalid for that of the window
   Refusal refusal_;

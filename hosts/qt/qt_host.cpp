@@ -6,6 +6,7 @@
 #include <QScreen>
 
 #include "qt/dialog_window.h"
+#include "qt/stand_over.h"
 #include "qt/texts.h"
 
 namespace orlin {
@@ -25,14 +26,25 @@ QMessageBox::StandardButtons ButtonsOf(int flags) {
   }
 }
 
-int AnswerOf(int button) {
+int AnswerOf(int button, int flags) {
   switch (button) {
+    case QMessageBox::Ok:
+      return answers::Ok;
     case QMessageBox::Yes:
       return answers::Yes;
     case QMessageBox::No:
       return answers::No;
     case QMessageBox::Cancel:
       return answers::Cancel;
+    default:
+      break;
+  }
+  // None was pressed: as Escape answers.
+  switch (flags & kButtonsMask) {
+    case Message::OkCancel:
+      return answers::Cancel;
+    case Message::YesNo:
+      return answers::No;
     default:
       return answers::Ok;
   }
@@ -48,18 +60,21 @@ SizeInTwips QtHost::Screen() const {
 }
 
 void QtHost::ShowModal(shown::Dialog& dialog) {
-  DialogWindow window(dialog, DialogWindow::Timers::Run, parent_);
+  if (Closing()) return dialog.Close();
+  DialogWindow window(dialog, DialogWindow::Timers::Run, Parent());
   const QScopedValueRollback<DialogWindow*> present(window_, &window);
   window.Open();
   window.Work();
 }
 
 int QtHost::ShowMessage(const Message& message) {
+  if (Closing()) return AnswerOf(QMessageBox::NoButton, message.Flags);
   if (window_ != nullptr) {
     window_->Present();
     window_->show();
   }
-  QMessageBox box(window_ != nullptr ? static_cast<QWidget*>(window_) : parent_);
+  QMessageBox box(window_);
+  StandOver(box, Parent());
   box.setTextFormat(Qt::PlainText);
   box.setText(Shown(message.Text));
   box.setWindowTitle(message.Title ? Shown(*message.Title) : QGuiApplication::applicationDisplayName());
@@ -67,7 +82,14 @@ int QtHost::ShowMessage(const Message& message) {
   const bool asks = (message.Flags & kButtonsMask) != Message::OkOnly;
   const bool warns = (message.Flags & Message::Warning) == Message::Warning;
   box.setIcon(warns ? QMessageBox::Warning : asks ? QMessageBox::Question : QMessageBox::Information);
-  return AnswerOf(box.exec());
+  return AnswerOf(box.exec(), message.Flags);
+}
+
+bool QtHost::Closing() const { return window_ != nullptr && window_->Closing(); }
+
+QWidget* QtHost::Parent() const {
+  if (window_ != nullptr) return window_;
+  return parent_ != nullptr ? parent_.data() : QApplication::activeWindow();
 }
 
 void QtHost::Beep() { QApplication::beep(); }

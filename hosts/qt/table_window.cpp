@@ -28,7 +28,7 @@ class RowTable final : public QTableWidget {
 TableWindow::TableWindow(ParameterTable& table) : table_(table) {
   setWindowTitle(Shown(table.Title()));
   const auto columns = table.Columns();
-  view_ = new RowTable(static_cast<int>(table.Rows()), static_cast<int>(columns.size()), this);
+  view_ = new RowTable(0, static_cast<int>(columns.size()), this);
   for (std::size_t i = 0; i < columns.size(); ++i) {
     auto* title = new QTableWidgetItem(Shown(columns[i]));
     title->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -43,7 +43,7 @@ TableWindow::TableWindow(ParameterTable& table) : table_(table) {
   view_->verticalHeader()->hide();
   view_->horizontalHeader()->setStretchLastSection(true);
   view_->horizontalHeader()->setHighlightSections(false);
-  for (int row = 0; row < view_->rowCount(); ++row) FillRow(row);
+  Fill();
   view_->resizeColumnsToContents();
   if (view_->rowCount() > 0) view_->setCurrentCell(0, 0);
   QObject::connect(view_, &QTableWidget::cellActivated, this, [this](int row, int) { OpenRow(row); });
@@ -65,16 +65,20 @@ void TableWindow::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Escape) QDialog::keyPressEvent(event);
 }
 
-void TableWindow::FillRow(int row) {
-  const auto texts = table_.Row(static_cast<std::size_t>(row));
-  for (int col = 0; col < view_->columnCount(); ++col) {
-    view_->setItem(row, col, new QTableWidgetItem(Shown(texts.at(static_cast<std::size_t>(col)))));
+void TableWindow::Fill() {
+  view_->setRowCount(static_cast<int>(table_.Rows()));
+  for (int row = 0; row < view_->rowCount(); ++row) {
+    const auto texts = table_.Row(static_cast<std::size_t>(row));
+    for (int col = 0; col < view_->columnCount(); ++col) {
+      view_->setItem(row, col, new QTableWidgetItem(Shown(texts.at(static_cast<std::size_t>(col)))));
+    }
   }
 }
 
 void TableWindow::OpenRow(int row) {
   line_->setText(Shown(table_.Open(static_cast<std::size_t>(row))));
-  FillRow(row);
+  // Others may have changed more than this row.
+  Fill();
 }
 
 }  // namespace orlin

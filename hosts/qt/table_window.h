@@ -22,7 +22,7 @@ class TableWindow final : public QDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void FillRow(int row);
+  void Fill();
   void OpenRow(int row);
 
   ParameterTable& table_;

@@ -26,7 +26,8 @@ class ParameterTable {
   [[nodiscard]] virtual std::size_t Rows() const = 0;
   /// One text for each column.
   [[nodiscard]] virtual std::vector<std::string> Row(std::size_t row) const = 0;
-  /// Opens the editor of a row, and returns what came of it in one line, also where it cannot be opened or stored.
+  /// Opens the editor of a row, and returns what came of it in one line, also where it cannot be opened or stored. Any
+  /// row may be another one afterwards.
   virtual std::string Open(std::size_t row) = 0;
 };
 

@@ -8,10 +8,14 @@
 
 namespace [[using gnu: visibility("default")]] orlin {
 
-/// Edits the four-digit function code of a zone of the Willow panels.
+/// Edits the four-digit function code of a zone of the Willow panels. What comes back is no argument of the next call:
+/// its digits are counted otherwise. The register of public classes (public_classes.h) makes the one out of the other.
 ///
-///     orlin::Value code{"4000"};
-///     if (orlin::clsZoneFunctionsWillow().Display(std::int16_t{5}, code) == 0) store(code);  // "5111" after OK
+///     std::vector<orlin::Value> stored{std::int16_t{5}, "5111"};  // ZoneNum and ZoneCode
+///     const auto& editor = *orlin::FindPublicClass("clsZoneFunctionsWillow");
+///     auto arguments = editor.ArgumentsFrom(stored);
+///     const auto result = editor.Display(arguments);
+///     if (editor.Confirmed(result, arguments)) stored = editor.StoredFrom(stored, arguments);
 class clsZoneFunctionsWillow {
  public:
   /// `ZoneNum`: the number of the zone, a text or a number; only shown.
@@ -19,7 +23,8 @@ class clsZoneFunctionsWillow {
   /// `ZoneCode`: on the way in, a text of four digits, of which each selects an item of its list *counted from 0*: "0"
   /// the first, "7" the eighth. "8" and "9" select none; a missing or other character counts as "0". On the way out,
   /// after OK only, a text of four digits that count the chosen items *from 1*: "1" to "8", and "0" for a list without
-  /// a selection. A host that stores what comes back subtracts 1 from each digit before the next call.
+  /// a selection. That is how a host stores it; before the next call it subtracts 1 from each digit and makes 0 a 9, as
+  /// `PublicClass::ArgumentsFrom` does.
   ///
   /// Returns 0 after an OK that passed the check of the first two digits, 1 after Cancel or the close box. Never a
   /// failure, but for 429 or 91 where the dialog itself cannot be created.

@@ -41,10 +41,10 @@ struct Crossing {
 ///
 ///     PublicClassOf("clsZoneFunctionsWillow", &clsZoneFunctionsWillow::Display, {"ZoneNum", "ZoneCode"})
 ///
-/// Parameters beyond the first `required` are optional.
+/// `storing` tells how a host stores its values. Parameters beyond the first `required` are optional.
 template <class Class, class... Arguments>
 PublicClass PublicClassOf(std::string name, std::int32_t (Class::*display)(Arguments...),
-                          const std::array<const char*, sizeof...(Arguments)>& names,
+                          const std::array<const char*, sizeof...(Arguments)>& names, StoringRules storing = {},
                           std::size_t required = sizeof...(Arguments)) {
   std::vector<Parameter> parameters{{"", Crossing<Arguments>::kKind, Crossing<Arguments>::kChanges}...};
   for (std::size_t i = 0; i < names.size(); ++i) {
@@ -64,9 +64,10 @@ PublicClass PublicClassOf(std::string name, std::int32_t (Class::*display)(Argum
       throw;
     }
   };
-  return PublicClass(std::move(name), std::move(parameters), [call](std::vector<Value>& arguments) {
+  const auto callWithAll = [call](std::vector<Value>& arguments) {
     return call(arguments, std::index_sequence_for<Arguments...>());
-  });
+  };
+  return PublicClass(std::move(name), std::move(parameters), callWithAll, std::move(storing));
 }
 
 }  // namespace orlin

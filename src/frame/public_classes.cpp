@@ -42,18 +42,48 @@ Value Converted(const Value& value, ParameterKind kind) {
   return value;
 }
 
-PublicClass::PublicClass(std::string name, std::vector<Parameter> parameters, Call display)
-    : name_(std::move(name)), parameters_(std::move(parameters)), display_(std::move(display)) {}
+PublicClass::PublicClass(std::string name, std::vector<Parameter> parameters, Call display, StoringRules storing)
+    : name_(std::move(name)),
+      parameters_(std::move(parameters)),
+      display_(std::move(display)),
+      storing_(std::move(storing)) {}
+
+void PublicClass::CheckNumber(const std::vector<Value>& values) const {
+  if (values.size() == parameters_.size()) return;
+  throw Failure(failures::InvalidCall, name_ + " takes " + std::to_string(parameters_.size()) + " arguments");
+}
 
 std::int32_t PublicClass::Display(std::vector<Value>& arguments) const {
-  if (arguments.size() != parameters_.size()) {
-    throw Failure(failures::InvalidCall, name_ + " takes " + std::to_string(parameters_.size()) + " arguments");
-  }
+  CheckNumber(arguments);
   std::vector<Value> converted(arguments.size());
   std::transform(arguments.begin(), arguments.end(), parameters_.begin(), converted.begin(),
                  [](const Value& value, const Parameter& parameter) { return Converted(value, parameter.Kind); });
   arguments = std::move(converted);
   return display_(arguments);
+}
+
+std::vector<Value> PublicClass::ArgumentsFrom(std::vector<Value> stored) const {
+  CheckNumber(stored);
+  if (storing_.ToArguments) storing_.ToArguments(stored);
+  return stored;
+}
+
+bool PublicClass::Confirmed(std::int32_t result, const std::vector<Value>& returned) const {
+  CheckNumber(returned);
+  return storing_.Confirmed ? storing_.Confirmed(result, returned) : result == 0;
+}
+
+std::vector<Value> PublicClass::StoredFrom(std::vector<Value> stored, const std::vector<Value>& returned) const {
+  CheckNumber(stored);
+  CheckNumber(returned);
+  if (storing_.Update) {
+    storing_.Update(stored, returned);
+  } else {
+    for (std::size_t i = 0; i < parameters_.size(); ++i) {
+      if (parameters_[i].Changes) stored[i] = returned[i];
+    }
+  }
+  return stored;
 }
 
 namespace {

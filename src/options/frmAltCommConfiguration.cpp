@@ -23,7 +23,6 @@ std::int32_t frmAltCommConfiguration::Display(Value& vMode, Value& vAlarm, Value
                                               const Value& SecurityLevels, std::int16_t iItemNo) {
   DisplaySteps steps;
   steps.Prepare = [&] {
-    StoredMode = vMode;
     StoredAlarm = vAlarm;
     StoredOpenClose = vOpenClose;
     StoredAll = vAll;
@@ -60,11 +59,9 @@ void frmAltCommConfiguration::FillPrintLists() {
   for (const auto& print : prints) {
     print.List.Clear();
     AddLocalTexts(print.List, kPrintChoices);
+    SkipFailure([&] { print.List.SelectRow(printsNothing ? 0 : ToInteger(print.Stored)); });
+    print.List.SetEnabled(!printsNothing);
   }
-  for (const auto& print : prints) {
-    SkipFailure([&] { print.List.SelectRow(printsNothing ? std::int16_t{0} : ToInteger(print.Stored)); });
-  }
-  for (const auto& print : prints) print.List.SetEnabled(!printsNothing);
 }
 
 }  // namespace orlin

@@ -32,7 +32,6 @@ class frmAltCommConfiguration {
   CancelButton cmdCancel{Form};
 
   // What came in, which mode 1 brings back whenever it is chosen.
-  Value StoredMode;
   Value StoredAlarm;
   Value StoredOpenClose;
   Value StoredAll;

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kNoBound = -1;
 constexpr int kMostHours = 12;
+constexpr int kMostMinutes = 59;  // in the box; the buttons step to 60
 
 /// Whether a text holds nothing but digits and its number lies within the bounds.
 bool IsNumber(const std::string& text, int low, int high) {
@@ -55,16 +56,20 @@ void frmPanelGMT::SetPanelTime(std::int16_t iHrs, std::int16_t iMins, std::int16
   chkPanelDayLightSaving.SetValue(iPanelDayLightSaving != 0 ? 1 : 0);
 }
 
+void frmPanelGMT::PutBack(TextBox& box, std::int16_t entry, bool& guard) {
+  guard = true;
+  box.SetText(std::to_string(entry));
+  box.SetSelStart(box.TextLength());
+  guard = false;
+  Form.Beep();
+}
+
 void frmPanelGMT::txthrsfromGMT_Change() {
   if (txthrsfromGMT.Text().empty()) return;
   if (!IsNumber(txthrsfromGMT.Text(), kNoBound, kNoBound)) {
-    HoursGuard = true;
-    txthrsfromGMT.SetText(std::to_string(EntryHours));
-    txthrsfromGMT.SetSelStart(txthrsfromGMT.TextLength());
-    HoursGuard = false;
-    Form.Beep();
+    PutBack(txthrsfromGMT, EntryHours, HoursGuard);
   } else if (!HoursGuard) {
-    if (NumericValue(txthrsfromGMT.Text()) >= 13) txthrsfromGMT.SetText(std::to_string(EntryHours));
+    if (NumericValue(txthrsfromGMT.Text()) > kMostHours) txthrsfromGMT.SetText(std::to_string(EntryHours));
     udHrsfromGMT.SetValue(ToInteger(NumericValue(txthrsfromGMT.Text())));
   }
 }
@@ -72,13 +77,9 @@ void frmPanelGMT::txthrsfromGMT_Change() {
 void frmPanelGMT::txtminfromGMT_Change() {
   if (txtminfromGMT.Text().empty()) return;
   if (!IsNumber(txtminfromGMT.Text(), kNoBound, kNoBound)) {
-    MinutesGuard = true;
-    txtminfromGMT.SetText(std::to_string(EntryMinutes));
-    txtminfromGMT.SetSelStart(txtminfromGMT.TextLength());
-    MinutesGuard = false;
-    Form.Beep();
+    PutBack(txtminfromGMT, EntryMinutes, MinutesGuard);
   } else if (!MinutesGuard) {
-    if (NumericValue(txtminfromGMT.Text()) >= 60) txtminfromGMT.SetText(std::to_string(EntryMinutes));
+    if (NumericValue(txtminfromGMT.Text()) > kMostMinutes) txtminfromGMT.SetText(std::to_string(EntryMinutes));
     udMinfromGMT.SetValue(udHrsfromGMT.Value() == kMostHours ? std::int16_t{0}
                                                              : ToInteger(NumericValue(txtminfromGMT.Text())));
   }

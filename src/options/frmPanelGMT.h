@@ -20,6 +20,8 @@ class frmPanelGMT {
   void txthrsfromGMT_Change();
   void txtminfromGMT_Change();
   void udHrsfromGMT_Change();
+  // A bad entry gives way to what came in, with a beep.
+  void PutBack(TextBox& box, std::int16_t entry, bool& guard);
 
   Dialog Form{"frmPanelGMT", "Panel Time", {.Unloads = true, .HandlesFailures = true}};
 

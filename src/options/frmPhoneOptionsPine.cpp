@@ -10,6 +10,9 @@ namespace {
 // What the longer caption of Check2 takes, in twips.
 constexpr int kWider = 600;
 
+/// The panels that tell the trouble at the command center. Codes without a name, here and below, are the host's own.
+bool IsS1(ePanelType panel) { return panel == ePanelType::Pine || panel == ePanelType{26} || panel == ePanelType{27}; }
+
 }  // namespace
 
 frmPhoneOptionsPine::frmPhoneOptionsPine() {
@@ -21,7 +24,7 @@ std::int32_t frmPhoneOptionsPine::Display(Value& vTrouble, Value& vOn, Value& vO
   DisplaySteps steps;
   steps.Prepare = [&] {
     Form.KeepSecurityLevels(SecurityLevels);
-    PanelType = panelType;
+    PanelType = ePanelType{panelType};
     ApplyPanelType();
     Check1.SetValue(ToInteger(vTrouble));
     Check2.SetValue(ToInteger(vOn));
@@ -38,48 +41,40 @@ std::int32_t frmPhoneOptionsPine::Display(Value& vTrouble, Value& vOn, Value& vO
 }
 
 void frmPhoneOptionsPine::ApplyPanelType() {
-  switch (PanelType) {
-    case 8:
-    case 26:
-    case 27:
-      Check1.SetCaption(GetLocalText(1382));
-      Check1.SetTag("Enable Supervision (System Trouble at Cmd Ctr)");
-      break;
-    case 25:
-      Check1.SetCaption(GetLocalText(1383));
-      Check1.SetTag("Enable Supervision (System Trouble at Keypad)");
-      break;
-    case 40:
-      Check2.SetCaption(GetLocalText(1908));
-      Check2.SetTag("&Burg Alarm and Strobe Functions, Away Mode or Stay Mode");
-      break;
-    default:
-      Check1.SetCaption(GetLocalText(1383));
-      Check1.SetTag("Enable Supervision (System Trouble at Keypad)");
-      Check2.SetCaption(GetLocalText(1384));
-      Check2.SetTag("Burg Alarm and Strobe Functions, All On or Perimeter Only");
-      Form.SetWidth(Form.Width() + kWider);
-      cmdCancel.SetLeft(cmdCancel.Left() + kWider);
-      cmdOK.SetLeft(cmdOK.Left() + kWider);
-      Check2.SetWidth(Check2.Width() + kWider);
+  if (IsS1(PanelType)) {
+    Check1.SetCaption(GetLocalText(1382));
+    Check1.SetTag("Enable Supervision (System Trouble at Cmd Ctr)");
+  } else if (PanelType == ePanelType{25}) {
+    Check1.SetCaption(GetLocalText(1383));
+    Check1.SetTag("Enable Supervision (System Trouble at Keypad)");
+  } else if (PanelType == ePanelType{40}) {
+    Check2.SetCaption(GetLocalText(1908));
+    Check2.SetTag("&Burg Alarm and Strobe Functions, Away Mode or Stay Mode");
+  } else {
+    Check1.SetCaption(GetLocalText(1383));
+    Check1.SetTag("Enable Supervision (System Trouble at Keypad)");
+    Check2.SetCaption(GetLocalText(1384));
+    Check2.SetTag("Burg Alarm and Strobe Functions, All On or Perimeter Only");
+    Form.SetWidth(Form.Width() + kWider);
+    cmdCancel.SetLeft(cmdCancel.Left() + kWider);
+    cmdOK.SetLeft(cmdOK.Left() + kWider);
+    Check2.SetWidth(Check2.Width() + kWider);
   }
-}
-
-bool frmPhoneOptionsPine::BothResponsesPassTogether() const {
-  return PanelType == 8 || PanelType == 26 || PanelType == 27;
 }
 
 void frmPhoneOptionsPine::cmdOK_Click() {
   Form.SetExitCode(ExitCode::OK);
-  const bool responds = Check2.Value() == 1 || Check3.Value() == 1;
-  if (Check1.Value() == 0 && responds) {
-    if (!BothResponsesPassTogether()) {
-      Form.SetExitCode(ExitCode::Cancel);
-      SkipFailure([&] { Form.ShowMessage(GetLocalText(1875), Message::OkOnly, GetLocalText(262)); });
-    } else if (Check2.Value() != Check3.Value()) {
-      Form.SetExitCode(ExitCode::Cancel);
-      SkipFailure([&] { Form.ShowMessage(GetLocalText(1385)); });
-    }
+  const bool possible = Check1.Value() == 0 && (Check2.Value() == 1 || Check3.Value() == 1);
+  const bool fault = possible && (!IsS1(PanelType) || Check2.Value() != Check3.Value());
+  if (fault) {
+    Form.SetExitCode(ExitCode::Cancel);
+    SkipFailure([&] {
+      if (IsS1(PanelType)) {
+        Form.ShowMessage(GetLocalText(1385));
+      } else {
+        Form.ShowMessage(GetLocalText(1875), Message::OkOnly, GetLocalText(262));
+      }
+    });
   }
   if (Form.ExitCode() == ExitCode::OK) Form.Hide();
 }

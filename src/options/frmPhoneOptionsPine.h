@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "frame/dialog.h"
+#include "frame/modPanelTypes.h"
 
 namespace orlin {
 
@@ -16,7 +17,6 @@ class frmPhoneOptionsPine {
   /// Captions, record names and layout that depend on the panel model.
   void ApplyPanelType();
   void cmdOK_Click();
-  [[nodiscard]] bool BothResponsesPassTogether() const;
 
   Dialog Form{"frmPhoneOptionsPine", 1379, kUsualLife};
 
@@ -27,7 +27,7 @@ class frmPhoneOptionsPine {
   OKButton cmdOK{Form};
   CancelButton cmdCancel{Form};
 
-  std::int32_t PanelType = 0;
+  ePanelType PanelType{};
 };
 
 }  // namespace orlin

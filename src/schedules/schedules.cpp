@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "frame/conversions.h"
 #include "frame/display_protocol.h"
 #include "frame/modPanelTypes.h"
 #include "frame/public_class_of.h"
@@ -63,6 +64,13 @@ constexpr std::array<const char*, 7> kWillowParameters = {"SkedNo",   "SkedType"
                                                           "SkedData", "SkedFunc", "SecurityLevels"};
 constexpr std::array<const char*, 3> kThreeBytes = {"Byte1", "Byte2", "Byte3"};
 
+/// The chosen time comes back beside the one that went in.
+void UpdateIndexFromResult(std::vector<Value>& stored, const std::vector<Value>& returned) {
+  constexpr std::size_t Index = 0;
+  constexpr std::size_t res = 1;
+  stored[Index] = ToInteger(returned[res]);
+}
+
 }  // namespace
 
 std::vector<PublicClass> SchedulesClasses() {
@@ -80,8 +88,10 @@ std::vector<PublicClass> SchedulesClasses() {
       PublicClassOf("clsSkedFunc_LarchNova", &clsSkedFunc_LarchNova::Display, kThreeBytes),
       PublicClassOf("clsSkedFunc_HazelKin", &clsSkedFunc_HazelKin::Display, kThreeBytes),
       PublicClassOf("clsSkedFunc_LarchKin", &clsSkedFunc_LarchKin::Display, kThreeBytes),
-      PublicClassOf("clsTime_FirePanels", &clsTime_FirePanels::Display, {"Index", "res"}),
-      PublicClassOf("clsLstTime_Rowan", &clsLstTime_Rowan::Display, {"Index", "res"}),
+      PublicClassOf("clsTime_FirePanels", &clsTime_FirePanels::Display, {"Index", "res"},
+                    {.Update = UpdateIndexFromResult}),
+      PublicClassOf("clsLstTime_Rowan", &clsLstTime_Rowan::Display, {"Index", "res"},
+                    {.Update = UpdateIndexFromResult}),
   };
 }
 

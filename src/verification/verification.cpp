@@ -26,14 +26,34 @@ std::int32_t clspasscodeLen::Display(Value& vresult, Value& vpresent, std::int16
   });
 }
 
+namespace {
+
+/// 2 stores the desired values; 1 keeps the existing data, and 0 is a Cancel.
+bool DesiredValuesCount(std::int32_t result, const std::vector<Value>& /*returned*/) { return result == 2; }
+
+constexpr std::size_t kChangedStatus = 2;
+
+/// The result is the same on every outcome.
+bool PasscodesCount(std::int32_t result, const std::vector<Value>& returned) {
+  return result == 0 && ToInteger(returned[kChangedStatus]) != 0;
+}
+
+/// The outcome is no value to be stored.
+void UpdatePasscodes(std::vector<Value>& stored, const std::vector<Value>& returned) {
+  for (std::size_t i = 0; i < kChangedStatus; ++i) stored[i] = returned[i];
+}
+
+}  // namespace
+
 std::vector<PublicClass> VerificationClasses() {
   return {
       PublicClassOf("clsErrorMessageNova", &clsErrorMessageNova::Display,
-                    {"vItemNo", "vValue", "SecurityLevels", "PanelType", "bThroughComm"}),
+                    {"vItemNo", "vValue", "SecurityLevels", "PanelType", "bThroughComm"},
+                    {.Confirmed = DesiredValuesCount}),
       PublicClassOf("clspasscodeLen", &clspasscodeLen::Display,
                     {"vresult", "vpresent", "bChangedStatus", "vPasscodeLength", "iTotalNoOfUsers", "bThroughSIA",
                      "bThroughComm", "SecurityLevels"},
-                    5),
+                    {.Confirmed = PasscodesCount, .Update = UpdatePasscodes}, 5),
   };
 }
 

@@ -11,17 +11,15 @@
 namespace orlin {
 namespace {
 
-// Texts and raw values, in order of the lists.
-constexpr std::array<std::int16_t, 2> kMotionTexts = {10643, 10644};
+// Raw values, in order of the lists.
 constexpr std::array<std::int16_t, 2> kMotionRaw = {0, 4};
-constexpr std::array<std::int16_t, 12> kInertiaTexts = {10645, 10646, 10647, 10648, 10649, 10650,
-                                                        10651, 10652, 10653, 10654, 10655, 10656};
 constexpr std::array<std::int16_t, 12> kInertiaRaw = {0, 1, 2, 3, 8, 9, 10, 11, 12, 13, 14, 15};
 
 bool IsMotionSensor(std::int16_t vOption) { return vOption == 1 || vOption == 2; }
 bool IsInertiaSensor(std::int16_t vOption) { return vOption == 10; }
 
-/// The raw value of the selected row; without one the value stays.
+/// The raw value of the selected row. A value that only the other list has opens without a row in this one, and an OK
+/// that chose nothing keeps it.
 void Encode(const ComboBox& list, std::span<const std::int16_t> rawValues, Value& res) {
   if (list.ListIndex() >= 0) res = rawValues[static_cast<std::size_t>(list.ListIndex())];
 }
@@ -47,8 +45,8 @@ std::int32_t frmTransceiverConfiguration::Display(std::int16_t vOption, Value& r
 }
 
 void frmTransceiverConfiguration::InitTypes() {
-  AddLocalTexts(cmbMotionSensor, kMotionTexts);
-  AddLocalTexts(cmbInertiaSensor, kInertiaTexts);
+  AddLocalTexts(cmbMotionSensor, TextRun<10643, 10644>());
+  AddLocalTexts(cmbInertiaSensor, TextRun<10645, 10656>());
 }
 
 void frmTransceiverConfiguration::SelectSensitivity(std::int16_t vOption, std::int16_t raw) {

@@ -14,6 +14,7 @@ constexpr WSNDeviceTypeTable kTable = {
     .DialogName = "frmWSNDeviceTypeInput",
     .DeviceTypes = kDeviceTypes,
     .RelayPosition = 6,
+    .OtherNoRelay = 0,
     .FreeCount = 4,
     .FirstFreeText = 10594,
     .InputText = 10632,

@@ -15,6 +15,7 @@ constexpr WSNDeviceTypeTable kTable = {
     .DialogName = "frmWSNDeviceTypeOutput",
     .DeviceTypes = kDeviceTypes,
     .RelayPosition = 2,
+    .OtherNoRelay = 3,
     .FreeCount = 32,
     .FirstFreeText = 10598,
     .InputText = 10674,
@@ -42,7 +43,7 @@ int frmWSNDeviceTypeOutput::PositionOf(std::int16_t deviceType) const {
 void frmWSNDeviceTypeOutput::SelectMapped(std::int16_t mapped) {
   if (mapped >= 1 && mapped <= 32) {
     WSNDeviceTypeDialog::SelectMapped(mapped);
-  } else if (FreeEntries() > 0) {
+  } else if (!FreeIds.empty()) {
     cmbMapped.SelectRow(0);
   }
 }

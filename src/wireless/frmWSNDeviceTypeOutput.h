@@ -12,8 +12,6 @@ class frmWSNDeviceTypeOutput : public WSNDeviceTypeDialog {
  private:
   [[nodiscard]] int PositionOf(std::int16_t deviceType) const override;
   void SelectMapped(std::int16_t mapped) override;
-  [[nodiscard]] bool OpensAsRelay(std::int16_t deviceType) const override { return deviceType == 8; }
-  [[nodiscard]] bool IsNoRelayOption(std::int16_t option) const override { return option == 0 || option == 3; }
   void BeforeEncoding() override;
 };
 

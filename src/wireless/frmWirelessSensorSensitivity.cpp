@@ -47,6 +47,7 @@ void frmWirelessSensorSensitivity::FillType1() {
 
 void frmWirelessSensorSensitivity::FillType2() { AddLocalTexts(cmbType2, kType2Texts); }
 
+// By the stored value and not by position, as "High" is stored as 4, here as in the dialog of transceivers.
 void frmWirelessSensorSensitivity::SelectType1(std::int16_t raw) {
   int row = 0;
   while (row < cmbType1.ListCount() && cmbType1.ItemData(row) != raw) ++row;

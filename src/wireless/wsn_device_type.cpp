@@ -1,11 +1,13 @@
 #include "wireless/wsn_device_type.h"
 
+#include <algorithm>
+
 #include "frame/conversions.h"
 #include "frame/display_protocol.h"
-#include "frame/fill_list.h"
 #include "frame/modGeneral.h"
 
 namespace orlin {
+
 WSNDeviceTypeDialog::WSNDeviceTypeDialog(const WSNDeviceTypeTable& table)
     : Table(table),
       Form(table.DialogName, 10638, kUsualLife),
@@ -14,7 +16,7 @@ WSNDeviceTypeDialog::WSNDeviceTypeDialog(const WSNDeviceTypeTable& table)
       lblMapped(grpMapped, table.MappedLabel, table.MappedText, {.Enabled = false}),
       cmbMapped(grpMapped, table.MappedList, {.Common = {.Enabled = false}}) {
   cmbDeviceType.Click = [this] { cmbDeviceType_Click(); };
-  cmbMapped.Click = [this] { TakeMapped(); };
+  cmbMapped.Click = [this] { cmbMapped_Click(); };
   optInput.Click = [this] { optInput_Click(); };
   optInputOutput.Click = [this] { optInputOutput_Click(); };
 }
@@ -25,12 +27,11 @@ std::int32_t WSNDeviceTypeDialog::Display(Value& vDeviceType, Value& vMappedOutp
   steps.Prepare = [&] {
     Form.KeepSecurityLevels(SecurityLevels);
     FillDeviceTypes();
-    CountFree(vFree);
     FillMapped(vFree);
     cmbDeviceType.SelectRow(PositionOf(ToInteger(vDeviceType)));
     SelectMapped(ToInteger(vMappedOutput));
     SelectRelayOption(ToInteger(vOption));
-    if (OpensAsRelay(ToInteger(vDeviceType))) {
+    if (cmbDeviceType.ListIndex() == Table.RelayPosition) {
       SetRelayControlsEnabled(true);
       if (optInputOutput.Value()) grpMapped.SetVisible(true);
     }
@@ -49,31 +50,24 @@ void WSNDeviceTypeDialog::FillDeviceTypes() {
   for (const auto& type : Table.DeviceTypes) cmbDeviceType.AddItem(GetLocalText(type.TextNumber));
 }
 
-void WSNDeviceTypeDialog::CountFree(const Value& vFree) {
-  std::size_t count = 0;
-  for (int i = 0; i < Table.FreeCount; ++i) count += ToBoolean(AsArray(vFree).At(i)) ? 1 : 0;
-  FreeIds.assign(count + 1, Value());
-}
-
 void WSNDeviceTypeDialog::FillMapped(const Value& vFree) {
   RelayOption = 0;
   cmbMapped.Clear();
-  std::size_t next = 0;
-  for (int i = 0; i < Table.FreeCount; ++i) {
+  FreeIds.clear();
+  for (std::int16_t i = 0; i < Table.FreeCount; ++i) {
     if (!ToBoolean(AsArray(vFree).At(i))) continue;
     cmbMapped.AddItem(GetLocalText(static_cast<std::int16_t>(Table.FirstFreeText + i)));
-    FreeIds[next++] = static_cast<std::int16_t>(i);
+    FreeIds.push_back(i);
   }
 }
 
 void WSNDeviceTypeDialog::SelectMapped(std::int16_t mapped) {
-  for (int k = 0; k < FreeEntries(); ++k) {
-    if (ToInteger(FreeIds[static_cast<std::size_t>(k)]) == mapped) cmbMapped.SelectRow(k);
-  }
+  const auto free = std::find(FreeIds.begin(), FreeIds.end(), mapped);
+  if (free != FreeIds.end()) cmbMapped.SelectRow(static_cast<int>(free - FreeIds.begin()));
 }
 
 void WSNDeviceTypeDialog::SelectRelayOption(std::int16_t option) {
-  if (IsNoRelayOption(option)) {
+  if (option == 0 || option == Table.OtherNoRelay) {
     optInput.SetValue(false);
     optInputOutput.SetValue(false);
     RelayOption = 0;
@@ -86,21 +80,13 @@ void WSNDeviceTypeDialog::SelectRelayOption(std::int16_t option) {
   }
 }
 
-bool WSNDeviceTypeDialog::OpensAsRelay(std::int16_t) const { return cmbDeviceType.ListIndex() == Table.RelayPosition; }
-
-void WSNDeviceTypeDialog::TakeMapped() {
-  // Without a selection there is nothing to take, and the number stays.
-  if (cmbMapped.ListIndex() < 0) return;
-  SkipFailure([&] { MappedOutput = ToInteger(FreeIds[static_cast<std::size_t>(cmbMapped.ListIndex())]); });
-}
-
 void WSNDeviceTypeDialog::cmbDeviceType_Click() {
   if (cmbDeviceType.ListIndex() == Table.RelayPosition) {
     SetRelayControlsEnabled(true);
     if (optInputOutput.Value()) {
       grpMapped.SetVisible(true);
       RelayOption = 2;
-      TakeMapped();
+      cmbMapped_Click();
     } else {
       RelayOption = 1;
       optInput.SetValue(true);
@@ -110,7 +96,11 @@ void WSNDeviceTypeDialog::cmbDeviceType_Click() {
     RelayOption = 0;
     MappedOutput = 0;
   }
-  DeviceIndex = cmbDeviceType.ListIndex();
+}
+
+void WSNDeviceTypeDialog::cmbMapped_Click() {
+  // Without a selection there is nothing to take, and the number stays.
+  if (cmbMapped.ListIndex() >= 0) MappedOutput = FreeIds[static_cast<std::size_t>(cmbMapped.ListIndex())];
 }
 
 void WSNDeviceTypeDialog::optInput_Click() {
@@ -131,7 +121,7 @@ void WSNDeviceTypeDialog::SetRelayControlsEnabled(bool bEnable) {
                                                                      lblInputOutput, lblMapped, cmbMapped}) {
     control.SetEnabled(bEnable);
   }
-  if (FreeEntries() > 0) return;
+  if (!FreeIds.empty()) return;
   optInputOutput.SetEnabled(false);
   lblInputOutput.SetEnabled(false);
 }

@@ -20,6 +20,7 @@ struct WSNDeviceTypeTable {
   const char* DialogName;
   std::span<const WSNDeviceType> DeviceTypes;  ///< in order of the list
   std::int16_t RelayPosition;                  ///< of the one device type that has the relay controls
+  std::int16_t OtherNoRelay;                   ///< a relay type that comes in for none, as 0 does
   int FreeCount;                               ///< elements of the array of what is free
   std::int16_t FirstFreeText;                  ///< the text of element 0; the others follow it
   std::int16_t InputText;
@@ -46,24 +47,16 @@ class WSNDeviceTypeDialog {
   [[nodiscard]] virtual int PositionOf(std::int16_t deviceType) const = 0;
   /// Selects what the device is mapped to, as it comes in.
   virtual void SelectMapped(std::int16_t mapped);
-  /// Whether the relay controls open enabled.
-  [[nodiscard]] virtual bool OpensAsRelay(std::int16_t deviceType) const;
-  /// Whether a relay type that comes in stands for none.
-  [[nodiscard]] virtual bool IsNoRelayOption(std::int16_t option) const { return option == 0; }
   /// What the chosen device type forces, before the values go out.
   virtual void BeforeEncoding() {}
 
-  /// The number of free entries.
-  [[nodiscard]] int FreeEntries() const noexcept { return static_cast<int>(FreeIds.size()) - 1; }
-
  private:
   void FillDeviceTypes();
-  void CountFree(const Value& vFree);
   void FillMapped(const Value& vFree);
   void SelectRelayOption(std::int16_t option);
   void SetRelayControlsEnabled(bool bEnable);
-  void TakeMapped();
   void cmbDeviceType_Click();
+  void cmbMapped_Click();
   void optInput_Click();
   void optInputOutput_Click();
 
@@ -86,11 +79,10 @@ class WSNDeviceTypeDialog {
   OKButton btnOK{Form, 101, "btnOK"};
   CancelButton btnCancel{Form, 119, "btnCancel"};
 
-  std::int16_t DeviceIndex = 0;
   std::int16_t MappedOutput = 0;
   std::int16_t RelayOption = 0;
-  // The numbers of the free entries, and an empty element behind them.
-  std::vector<Value> FreeIds;
+  // The number of the free entry in each row of cmbMapped.
+  std::vector<std::int16_t> FreeIds;
 };
 
 }  // namespace orlin

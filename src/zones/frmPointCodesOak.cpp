@@ -2,53 +2,50 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "frame/conversions.h"
 #include "frame/display_protocol.h"
 #include "frame/modGeneral.h"
-#include "zones/hex_digit.h"
+#include "zones/code_digits.h"
 
 namespace orlin {
 namespace {
 
 struct DigitList {
-  std::string_view Digits;      // of the items, in order
-  std::int16_t FirstText = 0;   // of the first item
-  std::int16_t SecondText = 0;  // of the second; the texts of the others follow it
+  std::string_view Digits;  // of the items, in order
+  std::int16_t FirstText;   // of the first item
+  std::int16_t SecondText;  // of the second; the texts of the others follow it
 };
-using DigitLists = std::array<DigitList, 5>;
 
 constexpr std::string_view kLetters = "ABCDEFGHIJKLMNOP";
-constexpr DigitList kDigit2{"0123456789", 1393, 1406};
 
-constexpr DigitLists kGrandLists = {{
+// From digit 1 on. Those of OakBase are the first three of OakGrand.
+constexpr auto kGrandLists = std::to_array<DigitList>({
     {"0123456789ABC", 1393, 1394},
-    kDigit2,
+    {"0123456789", 1393, 1406},
     {"0123456789ABCDEF", 1393, 1415},
     {"012345678", 1430, 1431},
     {kLetters, 1439, 1440},
-}};
-constexpr DigitLists kMidLists = {{
+});
+constexpr auto kMidLists = std::to_array<DigitList>({
     {"0123456789A", 1393, 1394},
-    kDigit2,
+    {"0123456789", 1393, 1406},
     {"01234567", 1393, 1415},
-}};
-constexpr DigitLists kBaseLists = {{kGrandLists[0], kGrandLists[1], kGrandLists[2]}};
+});
 
-const DigitLists& ListsOf(ePanelType panelType) {
-  if (panelType == ePanelType::OakGrand) return kGrandLists;
-  return panelType == ePanelType::OakMid ? kMidLists : kBaseLists;
+std::span<const DigitList> ListsOf(ePanelType panelType) {
+  if (panelType == ePanelType::OakMid) return kMidLists;
+  return std::span(kGrandLists).first(panelType == ePanelType::OakGrand ? 5 : 3);
 }
 
-/// The position that a digit of a code selects.
+/// The position that a digit of a code selects. The fifth comes back as it went out, so there a C is the third letter
+/// and not the hexadecimal digit 12; 0 to 9 are for hosts that keep a number in its place.
 int PositionOf(int digit, const std::string& code) {
-  if (digit == 5) {
-    const auto character = Mid(code, digit, 1);
-    const auto letter = std::find_if(kLetters.begin(), kLetters.end(),
-                                     [&](char known) { return SameName(character, std::string_view(&known, 1)); });
-    if (letter != kLetters.end()) return static_cast<int>(letter - kLetters.begin());
+  for (std::size_t i = 0; digit == 5 && i < kLetters.size(); ++i) {
+    if (SameName(Mid(code, digit, 1), kLetters.substr(i, 1))) return static_cast<int>(i);
   }
   return HexDigitAt(code, digit);
 }
@@ -89,19 +86,18 @@ std::int32_t frmPointCodesOak::Display(const Value& PointNum, Value& PointCode, 
 }
 
 void frmPointCodesOak::FillDigitLists() {
-  const auto& lists = ListsOf(PanelType);
-  for (std::size_t i = 0; i < lists.size(); ++i) {
-    const auto& [digits, firstText, secondText] = lists[i];
-    auto& list = cmbDigit[i + 1];
-    if (digits.empty()) {
-      list.SetVisible(false);
-      lblDigit[i + 1].SetVisible(false);
+  const auto lists = ListsOf(PanelType);
+  for (std::size_t list = 0; list < lists.size(); ++list) {
+    const auto& [digits, firstText, secondText] = lists[list];
+    for (std::size_t i = 0; i < digits.size(); ++i) {
+      const auto text = i == 0 ? firstText : static_cast<std::int16_t>(secondText + i - 1);
+      SkipFailure([&] { cmbDigit[list + 1].AddItem(std::string(1, digits[i]) + ". " + GetLocalText(text)); });
     }
-    auto text = firstText;
-    for (const char digit : digits) {
-      SkipFailure([&] { list.AddItem(std::string(1, digit) + ". " + GetLocalText(text)); });
-      text = text == firstText ? secondText : static_cast<std::int16_t>(text + 1);
-    }
+  }
+  if (PanelType == ePanelType::OakGrand) return;
+  for (const int digit : {4, 5}) {
+    cmbDigit[digit].SetVisible(false);
+    lblDigit[digit].SetVisible(false);
   }
 }
 

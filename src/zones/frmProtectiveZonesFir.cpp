@@ -7,23 +7,16 @@
 #include "frame/fill_list.h"
 #include "frame/modGeneral.h"
 #include "frame/utf8.h"
-#include "zones/hex_digit.h"
+#include "zones/code_digits.h"
 
 namespace orlin {
 namespace {
 
 constexpr int kCodeLength = 5;
 
-// The texts of the lists, in the order of the items.
-constexpr std::array<std::int16_t, 6> kDigit1 = {10874, 10875, 10876, 10877, 10878, 10879};
-constexpr std::array<std::int16_t, 9> kDigit2 = {10887, 10888, 10889, 10890, 10891, 10892, 10893, 10894, 10895};
-constexpr std::array<std::int16_t, 7> kDigit3 = {10880, 10881, 10882, 10883, 10884, 10885, 10886};
-constexpr std::array<std::int16_t, 8> kDigit4 = {10896, 10897, 10898, 10899, 10900, 10901, 10902, 10903};
-
 // The first list, where the second character is 0 or 3, and where it is 1, 2, 4 or 5.
 constexpr std::array<std::int16_t, 8> kShortDigit0 = {10904, 10905, 10906, 10907, 10908, 10911, 10909, 10910};
-constexpr std::array<std::int16_t, 16> kLongDigit0 = {10912, 10913, 10914, 10915, 10916, 10917, 10918, 10919,
-                                                      10920, 10921, 10922, 10923, 10924, 10925, 10926, 10927};
+constexpr auto kLongDigit0 = TextRun<10912, 10927>();
 
 }  // namespace
 
@@ -33,8 +26,6 @@ frmProtectiveZonesFir::frmProtectiveZonesFir() {
 }
 
 std::int32_t frmProtectiveZonesFir::Display(Value& ZoneCode) {
-  // The code is judged after the dialog has closed, so OK alone does not decide.
-  std::int32_t result = kNotConfirmed;
   DisplaySteps steps;
   steps.Prepare = [&] {
     FillDigitLists();
@@ -43,46 +34,32 @@ std::int32_t frmProtectiveZonesFir::Display(Value& ZoneCode) {
       SkipFailure([&] { cmbDigit[i].SelectRow(HexDigitAt(ToText(ZoneCode), i + 1)); });
     }
   };
-  steps.Encode = [&] {
-    if (CodeInvalid != 0) return TellIfInvalid();
-    ZoneCode = lblZoneCode.Caption();
-    result = kConfirmed;
-  };
-  steps.NotConfirmed = [&] {
-    TellIfInvalid();
+  // The code is judged after the dialog has closed, so OK alone does not decide.
+  steps.Conclude = [&] {
+    if (Form.ExitCode() == ExitCode::OK && CodeInvalid == 0) {
+      ZoneCode = lblZoneCode.Caption();
+      return kConfirmed;
+    }
+    if (CodeInvalid == -1) Form.ShowMessage(GetLocalText(237), Message::OkOnly, GetLocalText(10928));
     return kNotConfirmed;
   };
-  static_cast<void>(RunDisplay(Form, steps));
-  return result;
-}
-
-void frmProtectiveZonesFir::TellIfInvalid() {
-  if (CodeInvalid != -1) return;
-  SkipFailure([&] { Form.ShowMessage(GetLocalText(237), Message::OkOnly, GetLocalText(10928)); });
+  return RunDisplay(Form, steps);
 }
 
 void frmProtectiveZonesFir::FillDigitLists() {
-  AddLocalTexts(cmbDigit[1], kDigit1);
-  AddLocalTexts(cmbDigit[3], kDigit3);
-  AddLocalTexts(cmbDigit[2], kDigit2);
-  AddLocalTexts(cmbDigit[4], kDigit4);
+  AddLocalTexts(cmbDigit[1], TextRun<10874, 10879>());
+  AddLocalTexts(cmbDigit[3], TextRun<10880, 10886>());
+  AddLocalTexts(cmbDigit[2], TextRun<10887, 10895>());
+  AddLocalTexts(cmbDigit[4], TextRun<10896, 10903>());
 }
 
 void frmProtectiveZonesFir::FillDigitZeroList(const std::string& code) {
   cmbDigit[0].Clear();
-  switch (static_cast<int>(NumericValue(Mid(code, 2, 1)))) {
-    case 0:
-    case 3:
-      AddLocalTexts(cmbDigit[0], kShortDigit0);
-      break;
-    case 1:
-    case 2:
-    case 4:
-    case 5:
-      AddLocalTexts(cmbDigit[0], kLongDigit0);
-      break;
-    default:
-      break;
+  const int second = DecimalDigitAt(code, 2);
+  if (second == 0 || second == 3) {
+    AddLocalTexts(cmbDigit[0], kShortDigit0);
+  } else if (second <= 5) {
+    AddLocalTexts(cmbDigit[0], kLongDigit0);
   }
   SkipFailure([&] { cmbDigit[0].SelectRow(HexDigitAt(code, 1)); });
 }

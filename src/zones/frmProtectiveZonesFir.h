@@ -19,7 +19,6 @@ class frmProtectiveZonesFir {
   void FillDigitZeroList(const std::string& code);
   void cmbDigit_Click(int Index);
   void cmdCancel_Click();
-  void TellIfInvalid();
 
   Dialog Form{"frmProtectiveZonesFir", 10928, {.ReleasesServices = true}};
 

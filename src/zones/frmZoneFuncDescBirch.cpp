@@ -5,13 +5,14 @@
 
 #include "frame/conversions.h"
 #include "frame/display_protocol.h"
+#include "frame/fill_list.h"
 #include "frame/modGeneral.h"
 
 namespace orlin {
 namespace {
 
 // The zone types whose alarms can be verified, by the numbers of their names.
-constexpr std::array<std::int16_t, 8> kVerifiedTypes = {1723, 1724, 1725, 1726, 1727, 1728, 1729, 1730};
+constexpr auto kVerifiedTypes = TextRun<1723, 1730>();
 
 // The value of a zone that has no choice between verified and not.
 constexpr std::int16_t kNoAlarmVerify = 10;

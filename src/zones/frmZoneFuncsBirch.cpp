@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::array<std::int16_t, 16> kZoneTypes = {1723, 1724, 1725, 1726, 1727, 1728, 1729, 1730,
                                                      1731, 1732, 1733, 1734, 1735, 1234, 1736, 1737};
-constexpr std::array<std::int16_t, 4> kOutputResponses = {1743, 1744, 1745, 1746};
+constexpr auto kOutputResponses = TextRun<1743, 1746>();
 constexpr std::array<std::int16_t, 3> kTroubleOn = {395, 10560, 1747};
 
 }  // namespace

@@ -32,7 +32,7 @@ class frmZoneFuncsBirch {
   OKButton cmdOK{Form};
   CancelButton cmdCancel{Form};
 
-  // The position of cmbType after its last change; -1 until the first.
+  // The position of cmbType after its last change; the loading of the dialog sets it to -1.
   std::int16_t PrevTypeIndex = 0;
 };
 

@@ -6,28 +6,34 @@
 
 #include "frame/conversions.h"
 #include "frame/display_protocol.h"
+#include "frame/fill_list.h"
 #include "frame/modGeneral.h"
+#include "zones/code_digits.h"
 
 namespace orlin {
 namespace {
 
-constexpr int kItemsPerDigit = 8;
-
-// Number of the first item of each digit's list; the others follow it.
-constexpr std::array<std::int16_t, 4> kFirstItem = {1751, 1759, 1767, 1775};
+// The texts of each digit's list, in the order of the items.
+constexpr std::array<std::array<std::int16_t, 8>, 4> kItems = {
+    TextRun<1751, 1758>(),
+    TextRun<1759, 1766>(),
+    TextRun<1767, 1774>(),
+    TextRun<1775, 1782>(),
+};
 
 // What the second digit must be for a first digit; other first digits go with any.
 struct Pairing {
-  char FirstDigit;
+  std::string_view FirstDigits;
   std::string_view SecondDigits;
   std::int16_t ElseMessage;
 };
-constexpr std::array<Pairing, 4> kPairings = {{
-    {'1', "157", 1783},
-    {'2', "1", 1784},
-    {'4', "1", 1784},
-    {'3', "124", 1785},
+constexpr std::array<Pairing, 3> kPairings = {{
+    {"1", "157", 1783},
+    {"24", "1", 1784},
+    {"3", "124", 1785},
 }};
+
+bool Holds(std::string_view digits, char digit) { return digits.find(digit) != std::string_view::npos; }
 
 }  // namespace
 
@@ -39,10 +45,10 @@ frmZoneFuncsWillow::frmZoneFuncsWillow() {
 std::int32_t frmZoneFuncsWillow::Display(const Value& ZoneNum, Value& ZoneCode) {
   DisplaySteps steps;
   steps.Prepare = [&] {
-    SkipFailure([&] { lblZoneText.SetCaption(GetLocalText(1750, "ZONE", ToText(ZoneNum))); },
-                [&] { FillDigitLists(); });
+    SkipFailure([&] { lblZoneText.SetCaption(GetLocalText(1750, "ZONE", ToText(ZoneNum))); });
+    FillDigitLists();
     for (int i = 0; i < 4; ++i) {
-      SkipFailure([&] { cmbDigit[i].SelectRow(ToInteger(NumericValue(Mid(ToText(ZoneCode), i + 1, 1)))); });
+      SkipFailure([&] { cmbDigit[i].SelectRow(DecimalDigitAt(ToText(ZoneCode), i + 1)); });
     }
   };
   steps.Encode = [&] { ZoneCode = lblZoneCode.Caption(); };
@@ -50,12 +56,9 @@ std::int32_t frmZoneFuncsWillow::Display(const Value& ZoneNum, Value& ZoneCode) 
 }
 
 void frmZoneFuncsWillow::FillDigitLists() {
-  for (std::size_t i = 0; i < cmbDigit.size(); ++i) {
-    for (std::int16_t item = 0; item < kItemsPerDigit; ++item) {
-      SkipFailure([&] {
-        const auto text = GetLocalText(static_cast<std::int16_t>(kFirstItem[i] + item));
-        cmbDigit[i].AddItem(std::to_string(item + 1) + ". " + text);
-      });
+  for (std::size_t list = 0; list < kItems.size(); ++list) {
+    for (std::size_t i = 0; i < kItems[list].size(); ++i) {
+      SkipFailure([&] { cmbDigit[list].AddItem(std::to_string(i + 1) + ". " + GetLocalText(kItems[list][i])); });
     }
   }
 }
@@ -72,9 +75,9 @@ void frmZoneFuncsWillow::cmdOK_Click() {
 
 bool frmZoneFuncsWillow::ValidateZoneCode() {
   const std::string code = lblZoneCode.Caption();
-  const auto pairing =
-      std::find_if(kPairings.begin(), kPairings.end(), [&](const auto& known) { return known.FirstDigit == code[0]; });
-  if (pairing == kPairings.end() || pairing->SecondDigits.find(code[1]) != std::string_view::npos) return true;
+  const auto pairing = std::find_if(kPairings.begin(), kPairings.end(),
+                                    [&](const auto& row) { return Holds(row.FirstDigits, code[0]); });
+  if (pairing == kPairings.end() || Holds(pairing->SecondDigits, code[1])) return true;
   SkipFailure([&] { Form.ShowMessage(GetLocalText(pairing->ElseMessage), Message::OkOnly, GetLocalText(262)); },
               [&] { cmbDigit[1].SetFocus(); });
   return false;

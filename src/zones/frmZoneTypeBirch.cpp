@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <span>
 
 #include "frame/conversions.h"
 #include "frame/display_protocol.h"
@@ -15,8 +16,8 @@ struct ZoneType {
   std::int16_t Text;
   std::int16_t StoredValue;
 };
-/// In the order of the list; a type without a text ends it.
-using ZoneTypes = std::array<ZoneType, 6>;
+/// In the order of the list.
+using ZoneTypes = std::span<const ZoneType>;
 
 enum class RF { Any, No, Yes };
 
@@ -28,21 +29,27 @@ struct ZoneRange {
 };
 
 constexpr std::int32_t kAndAbove = std::numeric_limits<std::int32_t>::max();
-constexpr ZoneTypes kWiredTypes = {{{10540, 0}, {10542, 1}, {10543, 2}, {10544, 3}, {10545, 4}}};
+
+constexpr ZoneType kOnlyWired[] = {{10540, 0}};
+constexpr ZoneType kWired[] = {{10540, 0}, {10542, 1}, {10543, 2}, {10544, 3}, {10545, 4}};
+constexpr ZoneType kTamper[] = {{10546, 0}, {10542, 1}, {10543, 2}, {10544, 3}, {10545, 4}};
+constexpr ZoneType kOnlyRadio[] = {{10311, 0}};
+constexpr ZoneType kExpander[] = {{10554, 0}, {10542, 1}, {10543, 2}, {10544, 3}, {10545, 4}, {10548, 5}};
+constexpr ZoneType kRadio[] = {{10547, 0}, {10548, 5}};
 
 constexpr std::array<ZoneRange, 8> kZoneRanges = {{
-    {1, 8, RF::Any, {{{10540, 0}}}},
-    {9, 128, RF::Any, kWiredTypes},
-    {129, 129, RF::No, kWiredTypes},
-    {130, 134, RF::No, {{{10546, 0}, {10542, 1}, {10543, 2}, {10544, 3}, {10545, 4}}}},
-    {135, 136, RF::No, kWiredTypes},
-    {129, 136, RF::Yes, {{{10311, 0}}}},
-    {137, kAndAbove, RF::No, {{{10554, 0}, {10542, 1}, {10543, 2}, {10544, 3}, {10545, 4}, {10548, 5}}}},
-    {137, kAndAbove, RF::Yes, {{{10547, 0}, {10548, 5}}}},
+    {1, 8, RF::Any, kOnlyWired},
+    {9, 128, RF::Any, kWired},
+    {129, 129, RF::No, kWired},
+    {130, 134, RF::No, kTamper},
+    {135, 136, RF::No, kWired},
+    {129, 136, RF::Yes, kOnlyRadio},
+    {137, kAndAbove, RF::No, kExpander},
+    {137, kAndAbove, RF::Yes, kRadio},
 }};
 
-/// `Failure` 9 for a zone that there is not.
-const ZoneTypes& TypesOf(std::int32_t zone, bool orlinRF) {
+/// `Failure` 9 for a zone below 1.
+ZoneTypes TypesOf(std::int32_t zone, bool orlinRF) {
   const auto range = std::find_if(kZoneRanges.begin(), kZoneRanges.end(), [&](const auto& candidate) {
     const bool suits = candidate.OrlinRF == RF::Any || candidate.OrlinRF == (orlinRF ? RF::Yes : RF::No);
     return suits && zone >= candidate.First && zone <= candidate.Last;
@@ -82,7 +89,6 @@ void frmZoneTypeBirch::FillZoneTypeList(const Value& iZoneNum, const Value& iOrl
   const auto zone = ToLong(iZoneNum);
   const bool orlinRF = ToDouble(iOrlinRF) != 0;
   for (const auto& type : TypesOf(zone, orlinRF)) {
-    if (type.Text == 0) break;
     ZoneTypeTexts.push_back(GetLocalText(type.Text));
     ZoneTypeValues.push_back(type.StoredValue);
   }

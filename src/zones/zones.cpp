@@ -1,5 +1,8 @@
 #include "OrlinCustomDialogs/zones.h"
 
+#include <algorithm>
+
+#include "frame/conversions.h"
 #include "frame/display_protocol.h"
 #include "frame/modPanelTypes.h"
 #include "frame/public_class_of.h"
@@ -48,13 +51,43 @@ std::int32_t clsZoneFunctions_Fir::Display(Value& ZoneCode) {
   return CallDialog<frmProtectiveZonesFir>([&](auto& dialog) { return dialog.Display(ZoneCode); });
 }
 
+namespace {
+
+/// A digit that counts the items of its list from 1, 0 being none, as one that counts them from 0. No list has an
+/// item 9.
+char CountedFromZero(char digit) {
+  if (digit < '0' || digit > '9') return digit;
+  return digit == '0' ? '9' : static_cast<char>(digit - 1);
+}
+
+/// The code comes back counted from 1, which is how it is stored, and goes in counted from 0.
+void CountCodeFromZero(std::vector<Value>& values) {
+  constexpr std::size_t ZoneCode = 1;
+  auto& code = values[ZoneCode];
+  if (code.kind() == Value::Kind::Array || code.kind() == Value::Kind::Object) return;
+  auto digits = ToText(code);
+  std::transform(digits.begin(), digits.end(), digits.begin(), CountedFromZero);
+  code = std::move(digits);
+}
+
+/// The descriptions are the host's own: their first one comes back as a text of the catalogue, whatever it was.
+void UpdateAllButDescriptions(std::vector<Value>& stored, const std::vector<Value>& returned) {
+  constexpr std::size_t iFunction = 2;
+  constexpr std::size_t iZoneAlarmVerify = 3;
+  for (const auto place : {iFunction, iZoneAlarmVerify}) stored[place] = returned[place];
+}
+
+}  // namespace
+
 std::vector<PublicClass> ZonesClasses() {
   return {
-      PublicClassOf("clsZoneFunctionsWillow", &clsZoneFunctionsWillow::Display, {"ZoneNum", "ZoneCode"}),
+      PublicClassOf("clsZoneFunctionsWillow", &clsZoneFunctionsWillow::Display, {"ZoneNum", "ZoneCode"},
+                    {.ToArguments = CountCodeFromZero}),
       PublicClassOf("clsZoneFunctionsBirch", &clsZoneFunctionsBirch::Display,
                     {"vName", "vType", "vOption", "vTroubleOn", "SecurityLevels"}),
       PublicClassOf("clsZoneFuncDescBirch", &clsZoneFuncDescBirch::Display,
-                    {"vName", "vRetVal", "iFunction", "iZoneAlarmVerify", "SecurityLevels"}),
+                    {"vName", "vRetVal", "iFunction", "iZoneAlarmVerify", "SecurityLevels"},
+                    {.Update = UpdateAllButDescriptions}),
       PublicClassOf("clsZoneTypeBirch", &clsZoneTypeBirch::Display,
                     {"iZoneNum", "iOrlinRF", "iZoneType", "iMultiZoneType", "SecurityLevels"}),
       PublicClassOf("clsPointCodes_OakGrand", &clsPointCodes_OakGrand::Display, {"PointNum", "PointCode"}),

@@ -92,8 +92,8 @@ const std::string kShow = R"({"event":"show","dialog":"frmZoneFuncsWillow","capt
 const std::string kEmpty = R"({"type":"Empty","value":null})";
 
 TEST_F(CommandTest, PlaysTheExample) {
-  const auto ended = Run(
-      {"edit", "clsZoneFunctionsWillow", "ZoneNum=5", "ZoneCode=\"4000\"", "--script", ORLIN_EXAMPLES "/zone.script"});
+  const auto ended = Run({"edit", "clsZoneFunctionsWillow", "--stored", "ZoneNum=5", "ZoneCode=\"5111\"", "--script",
+                          ORLIN_EXAMPLES "/zone.script"});
   EXPECT_EQ(ended.Status, 0);
   EXPECT_EQ(ended.Err, "");
   EXPECT_EQ(std::count(ended.Out.begin(), ended.Out.end(), '\n'), 3);
@@ -202,6 +202,42 @@ TEST_F(CommandTest, TellsTheOutcomeWhereItIsAsked) {
   }
 }
 
+TEST_F(CommandTest, StoredValuesComeBackStoredAndOnlyWhereConfirmed) {
+  const std::string pick = "select cmbDigit(0) 1\nclick ";
+  const struct {
+    std::vector<std::string> Words;
+    std::string Script;
+    const char* Arguments;
+  } cases[] = {
+      {{"clsZoneFunctionsWillow", "ZoneCode=\"5109\""}, "click cmdOK", R"("value":"5100"}})"},
+      {{"clsZoneFunctionsWillow", "ZoneCode=5111"}, pick + "cmdOK", R"({"type":"String","value":"2111"}})"},
+      {{"clsZoneFunctionsWillow", "ZoneCode=5111"}, pick + "cmdCancel", R"({"type":"Integer","value":5111}})"},
+      {{"clsTime_FirePanels", "Index=754"},
+       "step UpDown1 up\nclick cmdOK",
+       R"({"Index":{"type":"Integer","value":814},"res":{"type":"Empty","value":null}})"},
+      {{"clsLstTime_Rowan", "Index=13"},
+       "select List1 7\nclick cmdCancel",
+       R"({"Index":{"type":"Integer","value":13},"res":{"type":"Empty","value":null}})"},
+      {{"clsErrorMessageNova", "vItemNo=[7]", "vValue=[5]"},
+       "click OptAccept\nclick btnAcceptChanges",
+       R"("vValue":{"type":"Array","value":["3"])"},
+      {{"clspasscodeLen", "vresult=[\"56789\",\"\"*249]", "vpresent=[\"\"*250]", "vPasscodeLength=4"},
+       "click cmdOK",
+       R"("value":["5678",)"},
+      {{"clspasscodeLen", "vresult=[\"56789\",\"\"*249]", "vpresent=[\"\"*250]", "vPasscodeLength=4"},
+       "click cmdCancel",
+       R"("value":["56789",)"},
+      {{"clsOctalRelaysBirch", "vType=9", "vData=\"1F\""}, "", R"("vData":{"type":"String","value":"1F"})"},
+  };
+  for (auto [words, script, arguments] : cases) {
+    words.emplace_back("--stored");
+    const auto ended = Edit(words, script);
+    EXPECT_NE(ended.Out.find(arguments), std::string::npos) << ended.Out << ended.Err;
+  }
+  EXPECT_NE(Run({"describe", "--stored", "clsZoneFunctionsWillow", "ZoneCode=5146"}).Out.find("5146\n"),
+            std::string::npos);
+}
+
 TEST_F(CommandTest, StrictEndsWithTheRefusedLine) {
   const std::string refused =
       R"({"event":"refused","line":1,"action":"click cmdNone","why":"no control named cmdNone"})"
@@ -289,6 +325,7 @@ TEST_F(CommandTest, CompletesWordsInBash) {
       {"edit --level A = 1,2 clsPanelGMT iHrs = 5 iM", "iMins="},
       {"edit clsPanelGMT iHrs =", ""},
       {"describe --acc", "--account"},
+      {"edit clsPanelGMT --sto", "--stored"},
       {"edit clsPanelGMT --host = s", "script"},
       {"edit clsPanelGMT --strict --language \"\"", "de en"},
   };

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <fstream>
 #include <map>
 #include <sstream>
@@ -53,13 +54,33 @@ Page ReadPage(std::istream& lines) {
 }
 
 TEST(ParametersPage, NamesEveryClassWithItsParametersInOrder) {
-  std::ifstream file(ORLIN_DOCS "/parameters.md");
+  std::ifstream file(ORLIN_SOURCE "/docs/parameters.md");
   Page registered;
   for (const auto& publicClass : PublicClasses()) {
     auto& shapes = registered[publicClass.Name()];
     for (const auto& parameter : publicClass.Parameters()) shapes.push_back(Shape(parameter));
   }
   EXPECT_EQ(ReadPage(file), registered);
+}
+
+/// The program and pages that show how stored values are edited; the program is built and run by the test of the
+/// installed package.
+TEST(Samples, EditStoredValuesAsTheProgramDoes) {
+  const auto trimmed = [](const std::string& path) {
+    std::ifstream file(path);
+    std::string text;
+    for (std::string line; std::getline(file, line);)
+      text += line.substr(std::min(line.find_first_not_of("/ "), line.size())) + '\n';
+    return text;
+  };
+  const auto program = trimmed(ORLIN_SOURCE "/examples/embed/main.cpp");
+  const auto start = program.find("std::vector<orlin::Value> stored");
+  const auto sample = program.substr(start, program.find("std::cout", start) - start);
+  ASSERT_EQ(std::count(sample.begin(), sample.end(), '\n'), 5);
+  for (const char* page : {"README.md", "docs/embedding.md", "include/OrlinCustomDialogs/zones.h",
+                           "include/OrlinCustomDialogs/public_classes.h"}) {
+    EXPECT_NE(trimmed(std::string(ORLIN_SOURCE "/") + page).find(sample), std::string::npos) << page;
+  }
 }
 
 }  // namespace

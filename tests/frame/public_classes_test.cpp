@@ -50,6 +50,30 @@ TEST(PublicClass, ConvertsCallsAndWritesBackOrRefusesBeforeAnythingIsDone) {
   }
 }
 
+TEST(PublicClass, KeepsStoredValuesByTheUsualRuleOrItsOwn) {
+  const std::int16_t one = 1;
+  const std::vector<Value> stored{"x", one, "old", false, "w"};
+  const std::vector<Value> returned{"y", std::int16_t{2}, "new", true, "v"};
+  EXPECT_EQ(Sample().ArgumentsFrom(stored), stored);
+  EXPECT_EQ(Sample().StoredFrom(stored, returned), (std::vector<Value>{"x", std::int16_t{2}, "new", false, "w"}));
+  EXPECT_TRUE(Sample().Confirmed(0, returned));
+  EXPECT_FALSE(Sample().Confirmed(1, returned));
+
+  const auto own = PublicClassOf(
+      "clsSample", &clsSample::Display, {"shown", "number", "text", "flag", "word"},
+      {.Confirmed = [](auto result, const auto& values) { return result == 2 && values[2] == Value("new"); },
+       .ToArguments = [](auto& values) { values[2] = "in"; },
+       .Update = [](auto& values, const auto& came) { values[4] = came[2]; }});
+  EXPECT_EQ(own.ArgumentsFrom(stored).at(2), "in");
+  EXPECT_TRUE(own.Confirmed(2, returned));
+  EXPECT_FALSE(own.Confirmed(2, stored));
+  EXPECT_EQ(own.StoredFrom(stored, returned), (std::vector<Value>{"x", one, "old", false, "new"}));
+
+  EXPECT_EQ(FailureOf([&] { static_cast<void>(own.ArgumentsFrom({})); }), failures::InvalidCall);
+  EXPECT_EQ(FailureOf([&] { static_cast<void>(own.Confirmed(2, {})); }), failures::InvalidCall);
+  EXPECT_EQ(FailureOf([&] { static_cast<void>(own.StoredFrom(stored, {})); }), failures::InvalidCall);
+}
+
 TEST_F(FrameTest, PublicClassesAreFoundByNameAndCreatedOnceRegistered) {
   EXPECT_NE(FindPublicClass("clsZoneFunctionsBirch"), nullptr);
   EXPECT_EQ(FindPublicClass("OrlinCustomDialogs.clsZoneFunctionsBirch"), FindPublicClass("clsZoneFunctionsBirch"));

@@ -15,9 +15,11 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QWheelEvent>
+#include <QWindow>
 #include <cstdlib>
 #include <functional>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -384,10 +386,17 @@ class QtHostTest : public ::testing::Test {
  protected:
   QtHostTest() {
     Platform platform;
-    platform.Host = std::make_shared<QtHost>();
+    platform.Host = Host;
     UsePlatform(std::move(platform));
+    Main->setStyleSheet("QMessageBox, QDialog { color: #123456 }");
+    Main->show();
   }
   ~QtHostTest() override { UsePlatform({}); }
+
+  /// A window of the application, with a page in it.
+  std::unique_ptr<QWidget> Main = std::make_unique<QWidget>();
+  QWidget* Page = new QWidget(Main.get());
+  std::shared_ptr<QtHost> Host = std::make_shared<QtHost>(Page);
 };
 
 TEST_F(QtHostTest, AMessageShowsWhatTheHandlerHasDoneSoFar) {
@@ -412,6 +421,126 @@ TEST_F(QtHostTest, AMessageShowsWhatTheHandlerHasDoneSoFar) {
   sample.Form.ShowModal();
   EXPECT_EQ(seen, "new");
   EXPECT_EQ(answer, answers::No);
+}
+
+TEST_F(QtHostTest, AParentThatGoesClosesTheDialog) {
+  const auto shown = [] { return QApplication::activeModalWidget(); };
+  const auto later = [](auto what) { QTimer::singleShot(1, what); };
+  const auto go = [&] { Main.reset(); };
+  const auto ask = [](Sample& its) { EXPECT_EQ(its.Form.ShowMessage("Sure?", Message::YesNo), answers::No); };
+  const struct {
+    const char* When;
+    std::function<void(Sample&)> Handler;
+    bool Throws = false;
+  } ways[] = {
+      {"between handlers", [&](Sample&) { later(go); }},
+      {"in a handler, which asks then", [&](Sample& its) { go(), ask(its), ask(its); }},
+      {"while a handler asks, twice", [&](Sample& its) { later(go), ask(its), ask(its); }},
+      {"while a dialog of the handler is shown",
+       [&](Sample&) {
+         Sample inner;
+         inner.tmrClock.SetEnabled(false);
+         later(go), inner.Form.ShowModal();
+       }},
+      {"in a handler that throws", [&](Sample&) { go(), throw std::runtime_error("the host"); }, true},
+      {"while a drop-down list is open",
+       [&](Sample&) { later([&] { shown()->findChild<QComboBox*>()->showPopup(), later(go); }); }},
+      {"while a menu is open",
+       [&](Sample&) {
+         later([&] {
+           later(go);
+           QContextMenuEvent event(QContextMenuEvent::Mouse, {}, {});
+           QApplication::sendEvent(shown()->findChild<QLineEdit*>(), &event);
+         });
+       }},
+  };
+  for (const auto& way : ways) {
+    SCOPED_TRACE(way.When);
+    Main = std::make_unique<QWidget>();
+    const QtHost::ParentForCalls parent(*Host, new QWidget(Main.get()));
+    Sample sample;
+    bool ends = false;
+    sample.tmrClock.OnTimer = [&] {
+      sample.tmrClock.SetEnabled(false);
+      way.Handler(sample);
+      ends = true;
+    };
+    if (way.Throws) {
+      EXPECT_THROW(sample.Form.ShowModal(), std::runtime_error);
+    } else {
+      sample.Form.ShowModal();
+    }
+    EXPECT_EQ(ends, !way.Throws) << "a handler runs to its end";
+    EXPECT_EQ(sample.Form.ExitCode(), ExitCode::None);
+    EXPECT_EQ(Main, nullptr);
+  }
+  Main = std::make_unique<QWidget>();
+  const QtHost::ParentForCalls parent(*Host, Main.get());
+  Sample sample;
+  later(go), ask(sample);
+}
+
+TEST_F(QtHostTest, EachCallHasItsParent) {
+  QWidget active;
+  active.show();
+  // What a dialog and a message have from the window that they stand over.
+  const auto expect = [&](const QWidget* over, const char* which) {
+    for (const bool isMessage : {false, true}) {
+      active.activateWindow();
+      QApplication::processEvents();
+      QTimer::singleShot(1, [&] {
+        auto* window = QApplication::activeModalWidget();
+        EXPECT_EQ(window->windowHandle()->transientParent(), over != nullptr ? over->windowHandle() : nullptr) << which;
+        const bool isStyled = window->palette().color(QPalette::WindowText) == QColor(0x123456);
+        EXPECT_EQ(isStyled, over != nullptr && over == Main.get()) << which;
+        window->close();
+      });
+      Sample sample;
+      sample.tmrClock.SetEnabled(false);
+      isMessage ? static_cast<void>(sample.Form.ShowMessage("")) : sample.Form.ShowModal();
+    }
+  };
+  expect(Main.get(), "the host's");
+  {
+    QWidget other;
+    const QtHost::ParentForCalls parent(*Host, &other);
+    other.show();
+    expect(&other, "the call's");
+  }
+  expect(Main.get(), "the host's again");
+  Main.reset();
+  expect(&active, "the active one");
+  active.hide();
+  const auto fail = [] { ADD_FAILURE() << "a dialog is no window to quit with"; };
+  QObject::connect(qApp, &QGuiApplication::lastWindowClosed, &active, fail);
+  QTimer::singleShot(0, [&] {
+    expect(nullptr, "none");
+    QCoreApplication::exit();
+  });
+  QApplication::exec();
+}
+
+TEST_F(QtHostTest, AnApplicationThatQuitsClosesTheDialog) {
+  const std::function<void()> ways[] = {[] { QCoreApplication::exit(); }, [] { QApplication::quit(); },
+                                        [this] { Main->close(); }};
+  QGuiApplication::setQuitOnLastWindowClosed(true);
+  for (const auto& quit : ways) {
+    for (const bool asks : {false, true}) {
+      Main->show();
+      Sample sample;
+      int answer = answers::No;
+      sample.tmrClock.OnTimer = [&] {
+        sample.tmrClock.SetEnabled(false);
+        QTimer::singleShot(1, quit);
+        if (asks) answer = sample.Form.ShowMessage("", Message::YesNo);
+      };
+      QTimer::singleShot(0, [&] { sample.Form.ShowModal(); });
+      QApplication::exec();
+      EXPECT_EQ(answer, answers::No);
+      EXPECT_FALSE(sample.Form.IsShown());
+    }
+  }
+  QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
 }  // namespace

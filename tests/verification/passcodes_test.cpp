@@ -146,8 +146,8 @@ TEST(Passcodes, WrongCorrectionGoesBack) {
   EXPECT_EQ(length.Control("cmdOK").at("enabled"), false);
 
   // Only the host can bring in letters: the keys of the editor take digits.
-  const auto letters =
-      Account{.Codes = {"12a"}}.Play("answer 1\ncell fa 1 1\ndoubleclick fa\ntype fa \"x-4.\"\nkey fa Enter\ndump");
+  const auto letters = Account{.Codes = {"12a"}}.Play(
+      "answer 1\ncell fa 1 1\ndoubleclick fa\nkey fa End\ntype fa \"x-4.\"\nkey fa Enter\ndump");
   EXPECT_EQ(letters.Fields("message", "text"), Texts({262}));
   EXPECT_EQ(letters.Control("fa").at("cells")[1][1], "12a");
   EXPECT_EQ(letters.Lines[letters.Lines.size() - 3].at("event"), "beep") << "after the message";
@@ -155,7 +155,8 @@ TEST(Passcodes, WrongCorrectionGoesBack) {
 
 TEST(Passcodes, ListFollowsTheTyping) {
   const auto run = Account{.Codes = {"12", "1234", "1299", "5678"}}.Play(
-      "answer 1\ndump\ntick Timer1\ncell fa 1 1\ndoubleclick fa\ntick Timer1\ndump\ntype fa \"30\"\ntick Timer1\n"
+      "answer 1\ndump\ntick Timer1\ncell fa 1 1\ndoubleclick fa\ntick Timer1\ndump\nkey - End\ntype fa \"30\"\ntick "
+      "Timer1\n"
       "dump\nkey fa Backspace\ntype fa \"2\"\ntick Timer1\ndump\nkey fa Escape\ndump\ncell fa 1 1\ndoubleclick fa\n"
       "type fa \"1\"\ndump\nkey fa Backspace");
   const auto list = [&](std::size_t dump) { return run.Control("lstExisting", dump).at("list"); };

@@ -142,14 +142,14 @@ TEST(SiaReview, OutcomeIsTheResult) {
     int Result;
     std::vector<int> Messages;
     const char* Stored;  // null: the values stay as they came
-  } cases[] = {
-      {"answer 1\n" + edit + "click btnAcceptChanges", 1, {10698}, nullptr},
-      {"answer 1\n" + edit + "click OptAccept\nclick OptIgnore\nkey - Enter", 1, {10698}, nullptr},
-      {"answer 1\n" + edit + "click OptAccept\nkey - Enter", 2, {10700}, "100"},
-      {"answer 6\n" + edit + "click btnCancel", 0, {10728}, nullptr},
-      {"answer 6\n" + edit + "click OptAccept\nkey - Escape", 0, {10728}, nullptr},
-      {"answer 7\nanswer 1\n" + edit + "click OptAccept\nclick btnCancel\nkey - Enter", 2, {10728, 10700}, "100"},
-      {edit + "click OptAccept\nclose", 0, {}, nullptr}};
+  } cases[] = {{"answer 1\n" + edit + "click btnAcceptChanges", 1, {10698}, nullptr},
+               {"answer 1\n" + edit + "click OptAccept\nclick OptIgnore\nkey - Enter", 1, {10698}, nullptr},
+               {"answer 1\n" + edit + "click OptAccept\nkey - Enter", 2, {10700}, "100"},
+               {"answer 6\n" + edit + "click btnCancel", 0, {10728}, nullptr},
+               {"answer 6\n" + edit + "click OptAccept\nkey - Escape", 0, {10728}, nullptr},
+               {"answer 7\nanswer 1\n" + edit + "click OptAccept\nkey - Escape\nkey - Enter", 2, {10728, 10700}, "100"},
+               {"answer 7\nanswer 6\n" + edit + "click btnCancel\nkey - Enter", 0, {10728, 10728}, nullptr},
+               {edit + "click OptAccept\nclose", 0, {}, nullptr}};
   for (const auto& row : cases) {
     const auto run = Review("[29,27]", "[10,2]", row.Script);
     EXPECT_EQ(run.Result, row.Result) << row.Script;

@@ -1,0 +1,72 @@
+#!/usr/bin/env bash
+# The window of an account on a real X server, worked by keys alone: two parameters are changed and stored, one after the
+# other. $HOST is the program with windows, $ACCOUNT an account that begins with the zones 5 and 12.
+set -euo pipefail
+
+work=$(mktemp -d)
+started=()
+finish() {
+  ((${#started[@]})) && kill "${started[@]}" 2>/dev/null
+  wait
+  rm -rf "$work"
+}
+trap finish EXIT
+
+fail() {
+  printf '%s\n' "$@" >&2
+  cat "$work"/*.log >&2
+  exit 1
+}
+
+for program in Xvfb xdotool; do
+  command -v "$program" >"$work/which.log" || fail "There is no $program; ./test installs it."
+done
+
+# The server takes a free number, and tells it when it is ready.
+mkfifo "$work/number"
+Xvfb -displayfd 3 -nolisten tcp 3>"$work/number" >"$work/server.log" 2>&1 &
+started+=($!)
+read -r number <"$work/number" || fail "Xvfb does not start."
+export DISPLAY=:$number QT_QPA_PLATFORM=xcb
+unset WAYLAND_DISPLAY
+
+account=$work/account.json
+cp "$ACCOUNT" "$account"
+"$HOST" account "$account" --language en --drives "$work" >"$work/host.log" 2>&1 &
+host=$!
+started+=("$host")
+
+# Waits for a window and gives it the keyboard, as no window manager is there to do. Where the program ends instead, it
+# has crashed.
+window_titled() {
+  local ended search
+  timeout 60 xdotool search --sync --onlyvisible --name "$1" windowfocus --sync >"$work/search.log" 2>&1 &
+  search=$!
+  started+=("$search")
+  wait -n -p ended "$search" "$host" && [[ $ended == "$search" ]] || fail "The program did not come to show \"$1\"."
+}
+press() { xdotool key --delay 1 "$@"; }
+# An editor is closed before its value is stored, and the next one opens after that.
+until_closed() {
+  while xdotool search --onlyvisible --name "$1" >"$work/search.log" 2>&1; do
+    kill -0 "$host" || fail "The program ended."
+  done
+}
+expect() { grep -qF "$1" "$account" || fail "The account holds no $1." "$(head -60 "$account")"; }
+
+window_titled '^Account of panel'
+press Return
+window_titled '^Zone Function$'
+press Up Up Return # the first digit from 5 to 3
+until_closed '^Zone Function$'
+window_titled '^Account of panel'
+press Down Return
+window_titled '^Edit Zone 12$'
+expect '"ZoneCode": "\"3146\""'
+press Down Return # the type from 3 to 4
+until_closed '^Edit Zone 12$'
+window_titled '^Account of panel'
+press Up Return
+window_titled '^Zone Function$'
+expect '"ZoneCode": "\"3146\""'
+expect '"vType": "4"'
