@@ -75,6 +75,7 @@ namespace shown {
 class Dialog;
 class Frame;
 class RowList;
+class UpDown;
 
 /// How far Page Up and Page Down go in lists and grids.
 inline constexpr int kRowsOfAPage = 10;
@@ -321,6 +322,11 @@ class TextControl : public Control {
 class TextBox : public TextControl {
  protected:
   using TextControl::TextControl;
+  void TextChanged() override;
+
+ private:
+  friend class UpDown;
+  UpDown* follower_ = nullptr;  // whose value is the number in here
 };
 
 /// What list boxes and combo boxes have in common: rows, and one of them selected.
@@ -441,7 +447,7 @@ class UpDown : public Control {
   /// The box whose number the buttons step, or null.
   [[nodiscard]] const TextControl* Buddy() const noexcept { return buddy_; }
 
-  /// Presses one of the two buttons once. The focus stays where it is.
+  /// Presses one of the two buttons once. The focus stays where it is. Tied to a box, a press at a limit does nothing.
   Refusal Step(Direction direction);
 
  protected:
@@ -449,14 +455,19 @@ class UpDown : public Control {
 
   /// `Failure` 380 outside the limits.
   void SetValue(int value);
-  /// The tied box outlives the up-down.
-  void StartLimits(int min, int max, TextControl* buddy) noexcept;
+  /// The tied box outlives the up-down. A press takes up the number in it first; `followsBuddy` takes it up whenever
+  /// the text changes. An empty box holds no number: the value stays. Taking a number up fires nothing.
+  void StartLimits(int min, int max, TextBox* buddy, bool followsBuddy);
 
   Event<> Change;
   Event<> UpClick;
   Event<> DownClick;
 
  private:
+  friend class TextBox;
+  void FollowBuddy();
+  /// The number that a press starts from, within the limits.
+  [[nodiscard]] int Start() const;
   void Put(int value, By by);
 
   std::int16_t value_ = 0;

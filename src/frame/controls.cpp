@@ -54,7 +54,7 @@ ListBox::ListBox(const Container& in, std::string_view name, const ListState& st
 
 UpDown::UpDown(const Container& in, std::string_view name, const UpDownState& state)
     : Logic(ControlKind::UpDown, in, name, state.Common) {
-  StartLimits(state.Min, state.Max, state.Buddy);
+  StartLimits(state.Min, state.Max, state.Buddy, state.FollowsBuddy);
 }
 
 StatusBar::StatusBar(const Container& in, std::string_view name, const ControlState& state)

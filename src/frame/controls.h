@@ -216,6 +216,8 @@ struct UpDownState {
   int Min = 0;
   int Max = 100;
   TextBox* Buddy = nullptr;
+  /// Whether the value follows the number in the box as it changes; else a press takes it up.
+  bool FollowsBuddy = false;
   ControlState Common = {};
 };
 

@@ -583,11 +583,29 @@ void ListBox::TakeKey(const Key& key) {
 
 // ---------------------------------------------------------------------------------------------- up-down
 
-void UpDown::StartLimits(int min, int max, TextControl* buddy) noexcept {
+void TextBox::TextChanged() {
+  if (follower_ != nullptr) follower_->FollowBuddy();
+}
+
+void UpDown::StartLimits(int min, int max, TextBox* buddy, bool followsBuddy) {
   min_ = static_cast<std::int16_t>(min);
   max_ = static_cast<std::int16_t>(max);
   value_ = min_;
   buddy_ = buddy;
+  if (buddy == nullptr || !followsBuddy) return;
+  buddy->follower_ = this;
+  FollowBuddy();
+}
+
+void UpDown::FollowBuddy() {
+  value_ = static_cast<std::int16_t>(Start());
+  Changed();
+}
+
+int UpDown::Start() const {
+  // A box that was emptied holds no number to take up.
+  if (buddy_ == nullptr || buddy_->Text().empty()) return value_;
+  return static_cast<int>(std::clamp<double>(NumericValue(buddy_->Text()), min_, max_));
 }
 
 void UpDown::Put(int value, By by) {
@@ -606,14 +624,11 @@ void UpDown::SetValue(int value) {
 
 Refusal UpDown::Step(Direction direction) {
   if (auto refusal = OutOfReach()) return refusal;
-  double from = value_;
-  // A box that was emptied holds no number to take up.
-  if (buddy_ != nullptr && !buddy_->Text().empty()) from = NumericValue(buddy_->Text());
-  const double step = direction == Direction::Up ? 1 : -1;
-  const double min = min_;
-  const double max = max_;
-  const auto fit = [=](double number) { return std::clamp(number, min, max); };
-  Put(static_cast<int>(fit(fit(from) + step)), By::Operator);
+  const int from = Start();
+  const int to = std::clamp<int>(from + (direction == Direction::Up ? 1 : -1), min_, max_);
+  // Without a box the buttons tell each press, whatever the dialog makes of it.
+  if (buddy_ != nullptr && to == from && to == value_) return {};
+  Put(to, By::Operator);
   if (direction == Direction::Up) {
     Raise(By::Operator, UpClick, "UpClick");
   } else {

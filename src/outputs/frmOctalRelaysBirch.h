@@ -40,7 +40,7 @@ class frmOctalRelaysBirch {
   Label lblFunction{Form, "lblFunction", 1191};
   ComboBox cmbFunction{Form, "cmbFunction"};
   TextBox txtFunction{Form, "txtFunction", {.Text = "1", .Locked = true}};
-  UpDown udFunction{Form, "udFunction", {.Min = 1, .Max = 24, .Buddy = &txtFunction}};
+  UpDown udFunction{Form, "udFunction", {.Min = 1, .Max = 24, .Buddy = &txtFunction, .FollowsBuddy = true}};
   CheckBox chkDisabled{Form, "chkDisabled", 164};
   TextBox txtFollowZone{Form, "txtFollowZone", {.MaxLength = 3}};
   OKButton cmdOK{Form};

@@ -16,6 +16,7 @@ class ControlsTest : public FormTest {
     cmbDrop.Click = note("cmbDrop_Click"), cmbEdit.Click = note("cmbEdit_Click");
     lstOne.Click = note("lstOne_Click"), lstMany.Click = note("lstMany_Click");
     udTied.UpClick = note("udTied_UpClick"), udTied.DownClick = note("udTied_DownClick");
+    udFree.DownClick = note("udFree_DownClick");
     txtTied.Change = note("txtTied_Change"), txtFree.Change = [this] { Note("txtFree_Change " + txtFree.Text()); };
     cmbEdit.Change = [this] { Note("cmbEdit_Change " + cmbEdit.Text()); };
     lstChecks.ItemCheck = [this](int row) { Note("lstChecks_ItemCheck " + std::to_string(row)); };
@@ -40,6 +41,9 @@ class ControlsTest : public FormTest {
   ListBox lstChecks{Form, "lstChecks", {.Choice = shown::Choice::Checks}};
   TextBox txtTied{Form, "txtTied", {.Text = "1"}};
   UpDown udTied{Form, "udTied", {.Min = 1, .Max = 24, .Buddy = &txtTied}};
+  UpDown udFree{Form, "udFree"};
+  TextBox txtFollowed{Form, "txtFollowed", {.Text = "3"}};
+  UpDown udFollowing{Form, "udFollowing", {.Min = 1, .Max = 24, .Buddy = &txtFollowed, .FollowsBuddy = true}};
   StatusBar StatusBar1{Form, "StatusBar1"};
   Timer Timer1{Form, "Timer1", {.Interval = 100}};
 };
@@ -68,7 +72,9 @@ TEST_F(ControlsTest, FireTheirEventsForCodeAndForTheOperator) {
       {[&] { lstChecks.SetSelected(0, true); }, {"lstChecks_ItemCheck 0"}},
       {[&] { udTied.Step(Direction::Up); }, {"udTied_Change 2", "udTied_UpClick"}},
       {[&] { udTied.SetValue(1); }, {"udTied_Change 1"}},
-      {[&] { udTied.Step(Direction::Down); }, {"udTied_DownClick"}},
+      {[&] { udTied.Step(Direction::Down); }, {}},
+      {[&] { txtTied.SetText(""), udTied.Step(Direction::Down); }, {"txtTied_Change"}},
+      {[&] { udFree.Step(Direction::Down); }, {"udFree_DownClick"}},
       {[&] { Timer1.Tick(); }, {"Timer1_Timer"}},
       {[&] { Timer1.SetEnabled(false), Timer1.Tick(); }, {}},
   };
@@ -117,6 +123,16 @@ TEST_F(ControlsTest, UpDownTakesUpTheNumberInItsBox) {
     EXPECT_EQ(std::count(events.begin(), events.end(), "txtTied_Change"), 0);
     EXPECT_FALSE(udTied.HasFocus());
   }
+}
+
+TEST_F(ControlsTest, UpDownMayFollowTheNumberInItsBox) {
+  EXPECT_EQ(udFollowing.Value(), 3);
+  for (const auto& [text, value] : {std::pair("7", 7), {"99", 24}, {"", 24}, {"0", 1}, {"", 1}}) {
+    txtFollowed.SetText(text);
+    EXPECT_EQ(udFollowing.Value(), value) << text;
+  }
+  During([&] { txtFollowed.Paste("12"), udFollowing.Step(shown::UpDown::Direction::Up); });
+  EXPECT_EQ(std::pair(0 + udFollowing.Value(), txtFollowed.Text()), std::pair(13, std::string("13")));
 }
 
 TEST_F(ControlsTest, KeysPickRowsInAListWithTheFocus) {
