@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "frame/dialog.h"
 
@@ -22,6 +24,8 @@ class frmOctalRelaysBirch {
   void ShowData(const Value& vData);
   [[nodiscard]] double EnteredData() const;
   void ShowInputArea();
+  /// Shows and enables controls as the rights of a record allow.
+  void ShowWithinRights(std::string_view key, const std::vector<AnyControl>& controls);
   void SetFunctionDisabled(TextBox& box, bool disabled);
 
   void cmbType_Click();

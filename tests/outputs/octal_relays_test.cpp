@@ -106,6 +106,19 @@ TEST(OctalRelays, NothingHappensAtALimitWhileTheNumberIsEmpty) {
   }
 }
 
+TEST(OctalRelays, OkReadsADecimalZoneAndKeepsWhatItWroteBeforeAFailure) {
+  const struct {
+    std::string Typed;
+    int Result;
+    Value Data;
+  } cases[] = {{"&HF", 0, "00"}, {"9x", 0, "09"}, {"9E9", 6, 9e9}};
+  for (const auto& [typed, result, data] : cases) {
+    const auto run = Open(Octal("3", "05"), "select cmbType 4\ntype txtFollowZone \"" + typed + "\"\nclick cmdOK");
+    EXPECT_EQ(run.Result, result) << typed;
+    EXPECT_EQ(Back(run, {"vType", "vData"}), (Values{Integer(4), data})) << typed;
+  }
+}
+
 TEST(OctalRelays, RightsFollowTheInputOfANewType) {
   const auto run = Open(Octal("3", "1"), "select cmbType 1\ndump\nselect cmbType 3\ndump",
                         {"AuthorityLevel=1,1", "Function=2,2", "Output Follows=1,1"});

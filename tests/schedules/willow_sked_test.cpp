@@ -63,7 +63,7 @@ TEST(WillowSked, OkStoresWhatIsShown) {
       {{"2", "", "0", "127"}, {Integer(2), "00:00", Integer(0), Integer(127), "005"}},
       {{"2", "", "0", "-1"}, {Integer(2), "00:00", Integer(0), Integer(127), "005"}},
       {{"2", "", "0", "\"5\""}, {Integer(2), "00:00", Integer(0), Integer(5), "005"}},
-      {{"2", "", "0", "12/31"}, {Integer(2), "00:00", Integer(0), Integer(0), "005"}},
+      {{"1", "\u00E9", "0", ""}, {Integer(1), "0\u00E9:00", Integer(0), "01/01", "005"}},
       {{"0", "", "0", "12/31"}, {Integer(0), "00:00", Integer(0), "12/31", none}},
       {{"100000", "", "0", "5L", "empty"}, {Integer(0), "00:00", Integer(0), 5, none}},
   };
