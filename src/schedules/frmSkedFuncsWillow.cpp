@@ -182,8 +182,10 @@ void frmSkedFuncsWillow::DisplayDOW(const Value* vSkedData) {
   if (enabledDays == 0) fraDOW.SetEnabled(false);
 
   if (vSkedData == nullptr) return;
+  // Days that are no number fail the call: nothing may be shown that OK would store in their place.
+  const auto days = ToInteger(*vSkedData);
   for (int day = 0; day < willow::kDaysOfWeek; ++day) {
-    SkipFailure([&] { chkDOW[day].SetValue(willow::RunsOn(ToInteger(*vSkedData), day) ? 1 : 0); });
+    SkipFailure([&] { chkDOW[day].SetValue(willow::RunsOn(days, day) ? 1 : 0); });
   }
 }
 
