@@ -6,6 +6,8 @@
 
 // Editors of communication and clock options.
 //
+// Without a text catalogue (see `Platform`) lists stay empty, and calls that need one fail with 91 or 380.
+//
 // Each `Display` returns 0 after OK, 1 after Cancel or the close box, else the number of a failure, before which
 // nothing was shown: 380 or 9 for a number that names no choice, 13 or 6 for a value that is no 16-bit integer, 424 or
 // 13 for `SecurityLevels` that are no collection, 5 for a collection with records but without "AuthorityLevel". On any

@@ -6,6 +6,8 @@
 
 // Editors of outputs and relays.
 //
+// Without a text catalogue (see `Platform`) lists stay empty, and every call fails with 91 or 380.
+//
 // Each `Display` returns 0 after OK, 1 after Cancel or the close box, else the number of a failure, before which
 // nothing was shown: 380 or 9 for a number that names no choice, 13 or 6 for a value that is no integer of its size,
 // 424 or 13 for `SecurityLevels` that are no collection, 5 for a collection with records but without "AuthorityLevel".
@@ -102,7 +104,7 @@ class clsOutputFunctions_Pine {
  public:
   /// `vName`: names the output in the title; only shown.
   ///
-  /// `vCode`: the row in the list of functions, from 0. Empty, an empty text, or a number beyond the list: none. An
+  /// `vCode`: the row in the list of functions, from 0. -1, empty, an empty text, or a number beyond the list: none. An
   /// Integer after OK, which is -1 where the operator entered two numbers that name no function.
   ///
   /// `vPanelType`: the panel-type code, which decides on the texts and the length of the list: rows 0 to 114 for 8 and

@@ -5,6 +5,8 @@
 #include "OrlinCustomDialogs/value.h"
 
 // Editors of schedule entries (skeds) and times.
+//
+// Without a text catalogue (see `Platform`) lists stay empty, and every call for a sked fails with 91.
 
 namespace [[using gnu: visibility("default")]] orlin {
 
@@ -39,9 +41,9 @@ class clsSkedFunc_Willow {
   /// value.
   ///
   /// Returns 0 after OK, 1 after Cancel or the close box, else the number of a failure, before which nothing was shown:
-  /// 13 or 6 for a `SkedNo` that is no number or too large, 13 for a time or a function that is an array or an object,
-  /// 424 or 13 for `SecurityLevels` that are no collection, 5 for a collection with records but without
-  /// "AuthorityLevel". The arguments other than `SkedNo` change on 0 only.
+  /// 13 or 6 for a `SkedNo` that is no number or too large, and for such days of a sked by day of week, 13 for a time
+  /// or a function that is an array or an object, 424 or 13 for `SecurityLevels` that are no collection, 5 for a
+  /// collection with records but without "AuthorityLevel". The arguments other than `SkedNo` change on 0 only.
   std::int32_t Display(const Value& SkedNo, Value& SkedType, Value& SkedTime, Value& TimeEdit, Value& SkedData,
                        Value& SkedFunc, const Value& SecurityLevels);
 };
@@ -58,7 +60,7 @@ class clsSkedFunc_Arbor {
   /// Numbers or texts of digits; Longs after OK, unchanged on any other outcome.
   ///
   /// `Byte1`: the code of the function: 0 to 24, 28 and 29; not 18 to 24 on Hazel and Larch, not 16 to 24 on LarchNova.
-  /// Any other number opens with the first function.
+  /// Any other number, of whatever size, opens with the first function.
   ///
   /// `Byte2`, `Byte3`: the parameters, 0 to 255: a mask of bits, the value of a choice, or a number. For the codes 3
   /// and 4 the byte is one lower than the number that is shown. A choice that the model lacks is not selected, and a
@@ -66,8 +68,7 @@ class clsSkedFunc_Arbor {
   /// for `Byte2` where a function with a number was selected before: that number comes back.
   ///
   /// Returns 0 after OK, 1 after Cancel or the close box, else the number of a failure, before which nothing was shown:
-  /// 13 for a `Byte1` that is no number, or a `Byte2` that is none with the codes 3 and 4; 6 for one that does not fit
-  /// a Long.
+  /// 13 for a `Byte1` that is no number, or a `Byte2` that is none with the codes 3 and 4.
   std::int32_t Display(Value& Byte1, Value& Byte2, Value& Byte3);
 };
 using clsSkedFunc_Rowan = clsSkedFunc_Arbor<1>;
@@ -84,7 +85,7 @@ using clsSkedFunc_LarchNova = clsSkedFunc_Arbor<51>;
 template <std::int32_t PanelType>
 class clsSkedFunc_Kin {
  public:
-  /// As `clsSkedFunc_Arbor`, with the codes 0 to 15. Any other `Byte1` is failure 380.
+  /// As `clsSkedFunc_Arbor`, with the codes 0 to 15. Any other `Byte1` is failure 380, or 6 beyond a Long.
   std::int32_t Display(Value& Byte1, Value& Byte2, Value& Byte3);
 };
 using clsSkedFunc_HazelKin = clsSkedFunc_Kin<17>;

@@ -6,6 +6,8 @@
 
 // Editors of wireless devices.
 //
+// Without a text catalogue (see `Platform`) lists stay empty, and every call fails with 91 or 429.
+//
 // Each `Display` returns 0 after OK, 1 after Cancel or the close box, else the number of a failure, before which
 // nothing was shown: 380 for a number that names no choice, 13 or 6 for a value that is not of its form, 9 for an array
 // that is too short, 424 or 13 for `SecurityLevels` that are no collection. On any outcome but 0 the arguments stay as

@@ -109,10 +109,14 @@ char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A'
 
 }  // namespace
 
+double DecimalValue(std::string_view text) noexcept {
+  text = WithoutLeadingBlanks(text);
+  return ReadNumber(text.substr(0, LengthOfNumber(text)));
+}
+
 double NumericValue(std::string_view text) noexcept {
   text = WithoutLeadingBlanks(text);
-  if (text.size() < 2 || text[0] != '&' || LowerCase(text[1]) != 'h')
-    return ReadNumber(text.substr(0, LengthOfNumber(text)));
+  if (text.size() < 2 || text[0] != '&' || LowerCase(text[1]) != 'h') return DecimalValue(text);
   double number = 0;
   for (const char c : text.substr(2)) {
     const char digit = LowerCase(c);
@@ -218,10 +222,7 @@ std::string HexText(std::int32_t number) {
 
 double HexNumber(const Value& digits) { return NumericValue("&H" + ToText(digits)); }
 
-std::string TwoHexDigits(std::int32_t number) {
-  const auto digits = HexText(number);
-  return digits.size() == 1 ? "0" + digits : digits;
-}
+std::string WithLeadingZero(const std::string& text) { return CharacterCount(text) < 2 ? "0" + text : text; }
 
 std::string TwoDigits(int number) {
   const auto digits = std::to_string(number);

@@ -14,6 +14,8 @@ namespace orlin {
 /// The longest leading number of a text, blanks before it passed over, or 0. "&H" begins a hexadecimal number, which
 /// is read as a positive number of any size.
 [[nodiscard]] double NumericValue(std::string_view text) noexcept;
+/// The same without hexadecimal numbers: "&HF" is 0.
+[[nodiscard]] double DecimalValue(std::string_view text) noexcept;
 
 /// Whether a text is a number as a whole: blanks, a sign, digits with or without a fraction and an exponent, blanks.
 [[nodiscard]] bool IsNumeric(std::string_view text) noexcept;
@@ -41,8 +43,8 @@ namespace orlin {
 /// The number that hexadecimal digits without a prefix write, such as "F8"; 0 where there are none. `Failure` 13 for
 /// an array or an object.
 [[nodiscard]] double HexNumber(const Value& digits);
-/// Capitals, at least two digits: 5 is "05".
-[[nodiscard]] std::string TwoHexDigits(std::int32_t number);
+/// A text with at least two characters, or one more than it had: "5" becomes "05".
+[[nodiscard]] std::string WithLeadingZero(const std::string& text);
 /// A number with at least two digits: 7 is "07".
 [[nodiscard]] std::string TwoDigits(int number);
 

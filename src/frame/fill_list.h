@@ -18,12 +18,16 @@ template <std::int16_t First, std::int16_t Last>
   return numbers;
 }
 
-/// Appends catalogue texts to a list, in order. A text that fails is left out, and the next one follows.
+/// Appends a catalogue text to a list. One that fails is left out.
+template <class List>
+void AddLocalText(List& list, std::int16_t number) {
+  SkipFailure([&] { list.AddItem(GetLocalText(number)); });
+}
+
+/// Likewise several, in order.
 template <class List, class Numbers>
 void AddLocalTexts(List& list, const Numbers& numbers) {
-  for (const std::int16_t number : numbers) {
-    SkipFailure([&] { list.AddItem(GetLocalText(number)); });
-  }
+  for (const std::int16_t number : numbers) AddLocalText(list, number);
 }
 
 /// Fills a list anew and selects the row that was selected before or, in a list that has become shorter, its last

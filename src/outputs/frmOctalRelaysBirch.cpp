@@ -2,8 +2,6 @@
 
 #include <array>
 #include <span>
-#include <string_view>
-#include <vector>
 
 #include "frame/conversions.h"
 #include "frame/display_protocol.h"
@@ -16,8 +14,8 @@ namespace orlin {
 namespace {
 
 constexpr auto kEvents = TextRun<1212, 1224>();
-constexpr std::array<std::int16_t, 14> kAlarmTypes = {513,  1225, 1226, 1227, 1228, 1229, 1230,
-                                                      1231, 1232, 1233, 1234, 1235, 1236, 1237};
+constexpr std::array<std::int16_t, 14> kNoneAndAlarms = {513,  1225, 1226, 1227, 1228, 1229, 1230,
+                                                         1231, 1232, 1233, 1234, 1235, 1236, 1237};
 
 // The list of events goes round this data byte.
 constexpr std::int16_t kTypeOfEvents = 1;
@@ -37,7 +35,7 @@ struct OctalType {
 constexpr std::array<OctalType, 5> kTypes = {{
     {513, 0, {}, kNone, 1238, Input::List},
     {1193, 1190, kArmingOptions, kEvents, 1238, Input::List},
-    {1046, 1190, kArmingOptions, kAlarmTypes, 1238, Input::List},
+    {1046, 1190, kArmingOptions, kNoneAndAlarms, 1238, Input::List},
     {1194, 1190, kArmingOptions, kNone, 1239, Input::FunctionNumber},
     {1195, 1199, kZoneConditions, kNone, 1240, Input::Zone},
 }};
@@ -72,18 +70,19 @@ std::int32_t frmOctalRelaysBirch::Display(const Value& vName, Value& vType, Valu
     Form.SetCaption(GetLocalText(1192, "ITEM", ToText(vName)));
   };
   steps.Encode = [&] {
+    // In this order, as a number that is too large ends it half-way, and what was written by then stays.
     vType = cmbType.ListIndex();
     vOption = cmbOption.ListIndex();
-    double data = EnteredData();
-    if (cmbType.ListIndex() == kTypeOfEvents && data >= kNoEvent) ++data;
-    vData = TwoHexDigits(ToLong(data));
+    vData = EnteredData();
+    if (cmbType.ListIndex() == kTypeOfEvents && ToDouble(vData) >= kNoEvent) vData = ToDouble(vData) + 1;
+    vData = WithLeadingZero(HexText(ToLong(vData)));
   };
   return RunDisplay(Form, steps);
 }
 
 void frmOctalRelaysBirch::FillOctalTypes() {
   cmbType.Clear();
-  for (const auto& type : kTypes) AddLocalTexts(cmbType, std::array{type.Text});
+  for (const auto& type : kTypes) AddLocalText(cmbType, type.Text);
 }
 
 void frmOctalRelaysBirch::FillOctalOptions() {
@@ -100,19 +99,30 @@ void frmOctalRelaysBirch::FillOctalFunctions() {
 }
 
 void frmOctalRelaysBirch::ShowData(const Value& vData) {
-  const auto input = Selected(cmbType).DataInput;
-  cmbFunction.SelectRow(input == Input::List ? ToInteger(vData) : std::int16_t{0});
-  if (input == Input::FunctionNumber) txtFunction.SetText(ToText(vData));
-  if (input == Input::Zone) txtFollowZone.SetText(ToText(vData));
-  if (input != Input::FunctionNumber || ToDouble(vData) == 0) chkDisabled.SetValue(1);
+  switch (Selected(cmbType).DataInput) {
+    case Input::List:
+      cmbFunction.SelectRow(ToInteger(vData));
+      chkDisabled.SetValue(1);
+      break;
+    case Input::FunctionNumber:
+      cmbFunction.SelectRow(0);
+      txtFunction.SetText(ToText(vData));
+      if (ToDouble(vData) == 0) chkDisabled.SetValue(1);
+      break;
+    case Input::Zone:
+      cmbFunction.SelectRow(0);
+      txtFollowZone.SetText(ToText(vData));
+      chkDisabled.SetValue(1);
+      break;
+  }
 }
 
 double frmOctalRelaysBirch::EnteredData() const {
   switch (Selected(cmbType).DataInput) {
     case Input::FunctionNumber:
-      return NumericValue(txtFunction.Text());
+      return DecimalValue(txtFunction.Text());
     case Input::Zone:
-      return NumericValue(txtFollowZone.Text());
+      return DecimalValue(txtFollowZone.Text());
     case Input::List:
       break;
   }
@@ -137,23 +147,26 @@ void frmOctalRelaysBirch::ShowInputArea() {
   };
   const auto& type = Selected(cmbType);
   for (const auto& area : areas) {
-    if (area.DataInput != type.DataInput) {
+    if (area.DataInput == type.DataInput) {
+      ShowWithinRights(area.Key, {lblFunction});
+      ShowWithinRights(area.Key, area.Controls);
+    } else {
       for (const auto& control : area.Controls) control.SetVisible(false);
-      continue;
     }
-    // A right that has no record restricts nothing.
-    bool visible = true;
-    bool enabled = true;
-    SkipFailure([&] { visible = MayView(Form.SecurityLevels(), area.Key); },
-                [&] { enabled = MayEdit(Form.SecurityLevels(), area.Key); });
-    const auto show = [&](const AnyControl& control) {
-      control.SetVisible(visible);
-      control.SetEnabled(enabled);
-    };
-    show(lblFunction);
-    for (const auto& control : area.Controls) show(control);
   }
   SkipFailure([&] { lblFunction.SetCaption(GetLocalText(type.FunctionCaption)); });
+}
+
+void frmOctalRelaysBirch::ShowWithinRights(std::string_view key, const std::vector<AnyControl>& controls) {
+  // A right that has no record restricts nothing.
+  bool visible = true;
+  bool enabled = true;
+  SkipFailure([&] { visible = MayView(Form.SecurityLevels(), key); },
+              [&] { enabled = MayEdit(Form.SecurityLevels(), key); });
+  for (const auto& control : controls) {
+    control.SetVisible(visible);
+    control.SetEnabled(enabled);
+  }
 }
 
 void frmOctalRelaysBirch::cmbFunction_Click() { FunctionMemory = cmbFunction.ListIndex(); }
@@ -179,7 +192,6 @@ void frmOctalRelaysBirch::SetFunctionDisabled(TextBox& box, bool disabled) {
 void frmOctalRelaysBirch::udFunction_Step() { chkDisabled.SetValue(0); }
 
 void frmOctalRelaysBirch::txtFunction_KeyDown(int key) {
-  // A step takes up the number that the box shows, which may have been set without the up-down.
   if (key == keys::Up || key == keys::Right) udFunction.Step(UpDown::Direction::Up);
   if (key == keys::Down || key == keys::Left) udFunction.Step(UpDown::Direction::Down);
 }

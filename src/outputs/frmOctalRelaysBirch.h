@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "frame/dialog.h"
 
@@ -22,6 +24,8 @@ class frmOctalRelaysBirch {
   void ShowData(const Value& vData);
   [[nodiscard]] double EnteredData() const;
   void ShowInputArea();
+  /// Shows and enables controls as the rights of a record allow.
+  void ShowWithinRights(std::string_view key, const std::vector<AnyControl>& controls);
   void SetFunctionDisabled(TextBox& box, bool disabled);
 
   void cmbType_Click();
@@ -40,7 +44,7 @@ class frmOctalRelaysBirch {
   Label lblFunction{Form, "lblFunction", 1191};
   ComboBox cmbFunction{Form, "cmbFunction"};
   TextBox txtFunction{Form, "txtFunction", {.Text = "1", .Locked = true}};
-  UpDown udFunction{Form, "udFunction", {.Min = 1, .Max = 24, .Buddy = &txtFunction}};
+  UpDown udFunction{Form, "udFunction", {.Min = 1, .Max = 24, .Buddy = &txtFunction, .FollowsBuddy = true}};
   CheckBox chkDisabled{Form, "chkDisabled", 164};
   TextBox txtFollowZone{Form, "txtFollowZone", {.MaxLength = 3}};
   OKButton cmdOK{Form};

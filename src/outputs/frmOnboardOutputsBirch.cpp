@@ -83,7 +83,7 @@ std::int32_t frmOnboardOutputsBirch::Display(const Value& vName, Value& vType, V
 }
 
 void frmOnboardOutputsBirch::FillOnboardTypes() {
-  for (const auto& type : kTypes) AddLocalTexts(cmbType, std::array{type.Text});
+  for (const auto& type : kTypes) AddLocalText(cmbType, type.Text);
 }
 
 void frmOnboardOutputsBirch::cmbType_Click() { FillOnboardOptions(); }

@@ -14,11 +14,11 @@
 namespace orlin {
 namespace {
 
-// Each list stands behind "None".
+// Each list stands behind "None". The alarms are not quite those that octal relays follow.
 constexpr std::array<std::int16_t, 3> kSounderOptions = {1359, 1360, 1361};
 constexpr std::array<std::int16_t, 4> kTroubles = {1363, 1364, 1365, 1366};
-constexpr std::array<std::int16_t, 12> kAlarmTypes = {1225, 1226, 1227, 1228, 1368, 1230,
-                                                      1369, 1232, 1233, 1234, 1235, 1236};
+constexpr std::array<std::int16_t, 12> kOutputAlarms = {1225, 1226, 1227, 1228, 1368, 1230,
+                                                        1369, 1232, 1233, 1234, 1235, 1236};
 
 struct OutputFunction {
   std::int16_t Code;
@@ -38,7 +38,7 @@ constexpr std::array<OutputFunction, 14> kFunctions = {{
     {7, 1219, 1350, kArmingOptions},
     {8, 1220, 1362, kTroubles},
     {9, 1221, 1350, kArmingOptions},
-    {10, 1353, 1367, kAlarmTypes},
+    {10, 1353, 1367, kOutputAlarms},
     {11, 1222, 1370, kZoneConditions},
     {12, 1354, 1370, kZoneConditions},
     {13, 1355, 1370, kZoneConditions, true},
@@ -46,15 +46,15 @@ constexpr std::array<OutputFunction, 14> kFunctions = {{
     {15, 1357, 1350, kArmingOptions, true, true},
 }};
 
-/// The codes 2 and 5 open the function behind the gap.
+/// The code 2 opens the function behind its gap, 5 the one before.
 std::int16_t PositionOf(std::int16_t code) {
-  const int gaps = code <= 2 ? 0 : code <= 4 ? 1 : 2;
-  return static_cast<std::int16_t>(code - gaps);
+  if (code == 3 || code == 4) return static_cast<std::int16_t>(code - 1);
+  return code > 4 ? static_cast<std::int16_t>(code - 2) : code;
 }
 
 std::string ZoneText(const Value& hexDigits) { return ToText(HexNumber(hexDigits)); }
 
-std::string ZoneDigits(const TextBox& box) { return TwoHexDigits(ToLong(NumericValue(box.Text()))); }
+std::string ZoneDigits(const TextBox& box) { return HexText(ToLong(NumericValue(box.Text()))); }
 
 }  // namespace
 
@@ -88,18 +88,19 @@ std::int32_t frmOutputFuncsBirch::Display(const Value& vName, Value& vType, Valu
     Form.SetCaption(GetLocalText(1192, "ITEM", ToText(vName)));
   };
   steps.Encode = [&] {
-    // In this order, as the number of a zone that is too large ends it half-way.
+    // In this order, as the number of a zone that is too large ends it half-way, and what was written by then stays.
     vType = cmbType.ListIndex();
     vOption = cmbOption.ListIndex();
     vFirstZone = ZoneDigits(txtFirstZone);
     vSecondZone = ZoneDigits(txtSecondZone);
     vType = kFunctions[static_cast<std::size_t>(cmbType.ListIndex())].Code;
+    for (auto* zone : {&vFirstZone, &vSecondZone}) *zone = WithLeadingZero(ToText(*zone));
   };
   return RunDisplay(Form, steps);
 }
 
 void frmOutputFuncsBirch::FillOutputFunctions() {
-  for (const auto& function : kFunctions) AddLocalTexts(cmbType, std::array{function.Text});
+  for (const auto& function : kFunctions) AddLocalText(cmbType, function.Text);
 }
 
 void frmOutputFuncsBirch::ApplyRights() {

@@ -78,7 +78,8 @@ void frmOutputFuncsPine::SelectCode(const Value& vCode) {
   const auto* text = vCode.Get<std::string>();
   const bool empty = vCode.IsEmpty() || (text != nullptr && text->empty());
   if (empty || ToDouble(vCode) > kSecondNumbers * MaxDigit1 + MaxDigit2) return;
-  if (const auto row = ToInteger(vCode); row < lstFunctionCode.ListCount()) lstFunctionCode.SelectRow(row);
+  // -1 stands for no row, as it does on the way out.
+  if (const auto row = ToInteger(vCode); row < lstFunctionCode.ListCount()) lstFunctionCode.SetListIndex(row);
 }
 
 void frmOutputFuncsPine::EnableOK() { cmdOK.SetEnabled(!txtDigit1.Text().empty() && !txtDigit2.Text().empty()); }

@@ -71,7 +71,7 @@ void frmPulseCountPine::FillPulseTime(std::int16_t count, std::int16_t time) {
     for (const auto number : kTimesOfInterval1) AddText(cbPulseCountTime, number, "INTERVAL", Interval1);
     for (const auto number : kTimesOfInterval2) AddText(cbPulseCountTime, number, "INTERVAL", Interval2);
   } else {
-    AddLocalTexts(cbPulseCountTime, std::array<std::int16_t, 1>{1489});
+    AddLocalText(cbPulseCountTime, 1489);
   }
   SkipFailure([&] { cbPulseCountTime.SetListIndex(time); });
 }

@@ -5,6 +5,7 @@
 #include "frame/conversions.h"
 #include "frame/display_protocol.h"
 #include "frame/modGeneral.h"
+#include "frame/utf8.h"
 #include "schedules/willow_catalogue.h"
 
 namespace orlin {
@@ -181,8 +182,10 @@ void frmSkedFuncsWillow::DisplayDOW(const Value* vSkedData) {
   if (enabledDays == 0) fraDOW.SetEnabled(false);
 
   if (vSkedData == nullptr) return;
+  // Days that are no number fail the call: nothing may be shown that OK would store in their place.
+  const auto days = ToInteger(*vSkedData);
   for (int day = 0; day < willow::kDaysOfWeek; ++day) {
-    SkipFailure([&] { chkDOW[day].SetValue(willow::RunsOn(ToInteger(*vSkedData), day) ? 1 : 0); });
+    SkipFailure([&] { chkDOW[day].SetValue(willow::RunsOn(days, day) ? 1 : 0); });
   }
 }
 
@@ -237,7 +240,7 @@ void frmSkedFuncsWillow::TimeBox_KeyPress(TextBox& box, int limit, int& key) {
 void frmSkedFuncsWillow::TimeBox_LostFocus(TextBox& box) {
   if (box.Text().empty()) box.SetText("0");
   if (box.Text() == "*") box.SetText("**");
-  box.SetText(willow::WithLeadingZero(box.Text()));
+  box.SetText(WithLeadingZero(box.Text()));
 }
 
 void frmSkedFuncsWillow::StepTime(std::string (*next)(const std::string& part, int limit)) {
@@ -297,8 +300,8 @@ void frmSkedFuncsWillow::cmdOK_Click() {
   if (optDOW.Value()) skedData_ = dayBits_;
   if (Form.ExitCode() == ExitCode::OK && !optDisabled.Value() && !ValidateCode()) Form.SetExitCode(ExitCode::Cancel);
   if (Form.ExitCode() != ExitCode::OK) return;
-  txtHour.SetText(willow::WithLeadingZero(txtHour.Text()));
-  txtMinute.SetText(willow::WithLeadingZero(txtMinute.Text()));
+  txtHour.SetText(WithLeadingZero(txtHour.Text()));
+  txtMinute.SetText(WithLeadingZero(txtMinute.Text()));
   Form.Hide();
 }
 
@@ -321,7 +324,7 @@ bool frmSkedFuncsWillow::ValidateDate() {
 }
 
 bool frmSkedFuncsWillow::ValidateCode() {
-  if (cmbSkedCode.Text().size() >= 3) return true;
+  if (CharacterCount(cmbSkedCode.Text()) >= 3) return true;
   TellMissing(1610, 1611, cmbSkedCode);
   return false;
 }

@@ -10,7 +10,7 @@ namespace orlin {
 namespace {
 
 /// The functions whose number is shown one higher than the byte.
-bool IsShownOneHigher(std::int32_t code) { return code == 3 || code == 4; }
+bool IsShownOneHigher(double code) { return code == 3 || code == 4; }
 
 /// Elements of value lists have their position as the key.
 template <class List>
@@ -104,11 +104,12 @@ std::int32_t SkedFuncsDialog::Display(Value& Byte1, Value& Byte2, Value& Byte3, 
     PanelType = panelType;
     SkedByte2 = Byte2;
     SkedByte3 = Byte3;
-    const auto code = ToLong(Byte1);
+    // Compared as a number of any size: where it is no code, the first function stands for it.
+    const auto code = ToDouble(Byte1);
     if (IsShownOneHigher(code)) SkedByte2 = ToDouble(Byte2) + 1;
     BuildFunctionTable();
     FillFunctionList();
-    List1.SelectRow(family_.CodeIsRow ? code : PositionOf(code));
+    List1.SelectRow(family_.CodeIsRow ? ToLong(Byte1) : PositionOf(code));
   };
   steps.Encode = [&] {
     const auto& row = SelectedRow();
@@ -159,7 +160,7 @@ void SkedFuncsDialog::FillFunctionList() {
   for (const auto& row : table_) List1.AddItem(row.FuncText, row.FuncCode);
 }
 
-int SkedFuncsDialog::PositionOf(std::int32_t code) const {
+int SkedFuncsDialog::PositionOf(double code) const {
   const auto row =
       std::find_if(table_.begin(), table_.end(), [&](const auto& known) { return known.FuncCode == code; });
   return row == table_.end() ? 0 : static_cast<int>(row - table_.begin());

@@ -56,7 +56,7 @@ class SkedFuncsDialog {
   void BuildFunctionTable();
   [[nodiscard]] SkedFuncRow BuildRow(const SkedFunc& function, const SkedModel& model);
   void FillFunctionList();
-  [[nodiscard]] int PositionOf(std::int32_t code) const;
+  [[nodiscard]] int PositionOf(double code) const;
 
   void List1_Click();
   void lstParameter1_Click();

@@ -42,8 +42,6 @@ Time DecodeTime(const std::string& skedTime) {
 
 std::string EncodeTime(const Time& time) { return WithLeadingZero(time.Hour) + ":" + WithLeadingZero(time.Minute); }
 
-std::string WithLeadingZero(const std::string& part) { return part.size() < 2 ? "0" + part : part; }
-
 std::string NextTimePart(const std::string& part, int limit) {
   const int next = TimePartNumber(part, limit) + 1;
   if (next < limit) return TwoDigits(next);

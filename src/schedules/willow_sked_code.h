@@ -29,8 +29,6 @@ struct Time {
 [[nodiscard]] Time DecodeTime(const std::string& skedTime);
 [[nodiscard]] std::string EncodeTime(const Time& time);
 
-/// A part of a time with at least two characters, or one more than it had.
-[[nodiscard]] std::string WithLeadingZero(const std::string& part);
 /// The part of a time that follows or precedes another one: 00 to the number below the limit, then "**", then 00 again.
 [[nodiscard]] std::string NextTimePart(const std::string& part, int limit);
 [[nodiscard]] std::string PreviousTimePart(const std::string& part, int limit);

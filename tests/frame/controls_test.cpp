@@ -17,6 +17,7 @@ class ControlsTest : public FormTest {
     cmbDrop.Click = note("cmbDrop_Click"), cmbEdit.Click = note("cmbEdit_Click");
     lstOne.Click = note("lstOne_Click"), lstMany.Click = note("lstMany_Click");
     udTied.UpClick = note("udTied_UpClick"), udTied.DownClick = note("udTied_DownClick");
+    udFollowing.DownClick = note("udFollowing_DownClick");
     txtTied.Change = note("txtTied_Change"), txtFree.Change = [this] { Note("txtFree_Change " + txtFree.Text()); };
     cmbEdit.Change = [this] { Note("cmbEdit_Change " + cmbEdit.Text()); };
     lstChecks.ItemCheck = [this](int row) { Note("lstChecks_ItemCheck " + std::to_string(row)); };
@@ -41,6 +42,8 @@ class ControlsTest : public FormTest {
   ListBox lstChecks{Form, "lstChecks", {.Choice = shown::Choice::Checks}};
   TextBox txtTied{Form, "txtTied", {.Text = "1"}};
   UpDown udTied{Form, "udTied", {.Min = 1, .Max = 24, .Buddy = &txtTied}};
+  TextBox txtFollowed{Form, "txtFollowed", {.Text = "3"}};
+  UpDown udFollowing{Form, "udFollowing", {.Min = 1, .Max = 24, .Buddy = &txtFollowed, .FollowsBuddy = true}};
   StatusBar StatusBar1{Form, "StatusBar1"};
   Timer Timer1{Form, "Timer1", {.Interval = 100}};
 };
@@ -70,6 +73,9 @@ TEST_F(ControlsTest, FireTheirEventsForCodeAndForTheOperator) {
       {[&] { udTied.Step(Direction::Up); }, {"udTied_Change 2", "udTied_UpClick"}},
       {[&] { udTied.SetValue(1); }, {"udTied_Change 1"}},
       {[&] { udTied.Step(Direction::Down); }, {"udTied_DownClick"}},
+      {[&] { udFollowing.Step(Direction::Down); }, {"udFollowing_DownClick"}},
+      {[&] { txtFollowed.SetText("1"), udFollowing.Step(Direction::Down); }, {}},
+      {[&] { txtFollowed.SetText(""), udFollowing.Step(Direction::Down); }, {}},
       {[&] { Timer1.Tick(); }, {"Timer1_Timer"}},
       {[&] { Timer1.SetEnabled(false), Timer1.Tick(); }, {}},
   };
@@ -118,6 +124,16 @@ TEST_F(ControlsTest, UpDownTakesUpTheNumberInItsBox) {
     EXPECT_EQ(std::count(events.begin(), events.end(), "txtTied_Change"), 0);
     EXPECT_FALSE(udTied.HasFocus());
   }
+}
+
+TEST_F(ControlsTest, UpDownMayFollowTheNumberInItsBox) {
+  EXPECT_EQ(udFollowing.Value(), 3);
+  for (const auto& [text, value] : {std::pair("7", 7), {"99", 24}, {"", 24}, {"0", 1}, {"", 1}}) {
+    txtFollowed.SetText(text);
+    EXPECT_EQ(udFollowing.Value(), value) << text;
+  }
+  During([&] { txtFollowed.Paste("12"), udFollowing.Step(shown::Direction::Up); });
+  EXPECT_EQ(std::pair(0 + udFollowing.Value(), txtFollowed.Text()), std::pair(13, std::string("13")));
 }
 
 TEST_F(ControlsTest, KeysPickRowsInAListWithTheFocus) {

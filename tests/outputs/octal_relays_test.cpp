@@ -87,6 +87,38 @@ TEST(OctalRelays, BoxesTakeStepsAndDigits) {
   EXPECT_EQ(Seen(none, "txtFunction", {"enabled", "text"}), (Json{true, "1"}));
 }
 
+TEST(OctalRelays, NothingHappensAtALimitWhileTheNumberIsEmpty) {
+  const std::string again = "click chkDisabled\nselect cmbType 0\nselect cmbType 3\n";
+  const struct {
+    Call Given;
+    std::string Script;
+    int Value;
+  } cases[] = {{Octal("1", "05"), "select cmbType 3\nkey txtFunction Left\nkey txtFunction Down", 1},
+               {Octal("3", "00"), "step udFunction down", 1},
+               {Octal("3", "18"), again + "key txtFunction Up\nkey txtFunction Right\nstep udFunction up 2", 24},
+               {Octal("3", "FF"), again + "step udFunction up", 24},
+               {Octal("3", "05"), again, 5}};
+  for (const auto& [given, script, value] : cases) {
+    const auto run = Open(given, script + "\ndump\nclick cmdOK");
+    EXPECT_EQ(Seen(run, "udFunction", {"value"}), Json{value}) << script;
+    EXPECT_EQ(run.Control("txtFunction")["text"], "") << script;
+    EXPECT_EQ(run.Argument("vData"), "00") << script;
+  }
+}
+
+TEST(OctalRelays, OkReadsADecimalZoneAndKeepsWhatItWroteBeforeAFailure) {
+  const struct {
+    std::string Typed;
+    int Result;
+    Value Data;
+  } cases[] = {{"&HF", 0, "00"}, {"9x", 0, "09"}, {"9E9", 6, 9e9}};
+  for (const auto& [typed, result, data] : cases) {
+    const auto run = Open(Octal("3", "05"), "select cmbType 4\ntype txtFollowZone \"" + typed + "\"\nclick cmdOK");
+    EXPECT_EQ(run.Result, result) << typed;
+    EXPECT_EQ(Back(run, {"vType", "vData"}), (Values{Integer(4), data})) << typed;
+  }
+}
+
 TEST(OctalRelays, RightsFollowTheInputOfANewType) {
   const auto run = Open(Octal("3", "1"), "select cmbType 1\ndump\nselect cmbType 3\ndump",
                         {"AuthorityLevel=1,1", "Function=2,2", "Output Follows=1,1"});

@@ -70,7 +70,10 @@ TEST(OutputFunctionsBirch, BoxesShowAndRememberTheirZones) {
   }
   EXPECT_EQ(Back(Open(Function("15", "F8", "A", "\"3\""), "click cmdOK"), {"vFirstZone", "vSecondZone", "vOption"}),
             (Values{"F8", "0A", Integer(3)}));
-  EXPECT_EQ(Open(Function("14", "FFFFFFFFF", ""), "click cmdOK").Result, 6);
+  const auto failed = Open(Function("15", "5", "FFFFFFFFFF"), "click cmdOK");
+  EXPECT_EQ(failed.Result, 6);
+  EXPECT_EQ(Back(failed, {"vType", "vFirstZone", "vSecondZone"}), (Values{Integer(13), "5", "FFFFFFFFFF"}))
+      << "what was written before the failure stays, in the form that it had then";
 }
 
 TEST(OutputFunctionsBirch, OptionStaysWithinTheListOfANewFunction) {

@@ -51,7 +51,7 @@ TEST(OutputFunctionsPine, StoredCodeSelectsItsRow) {
   } cases[] = {{"8", "0", "0,0 0 true"},     {"8", "\"48\"", "3,0 48 true"}, {"8", "64L", "4,0 64 true"},
                {"8", "112", "8,1 112 true"}, {"7", "121", "8,10 121 true"},  {"41", "126", "8,15 126 true"},
                {"8", "115", ", -1 false"},   {"7", "126", ", -1 false"},     {"7", "100000", ", -1 false"},
-               {"7", "empty", ", -1 false"}, {"7", "\"\"", ", -1 false"}};
+               {"7", "empty", ", -1 false"}, {"7", "\"\"", ", -1 false"},    {"7", "-1", ", -1 false"}};
   for (const auto& [panelType, code, shown] : cases) {
     SCOPED_TRACE(code);
     const auto run = Open(Pine(code, panelType), "dump\nkey txtDigit1 Enter");

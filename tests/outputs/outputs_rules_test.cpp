@@ -46,7 +46,7 @@ TEST(OutputEditors, WhatNamesNoChoiceIsAFailureThatNobodySees) {
       {380,
        {Octal("0", "1"), Octal("5", "1"), Octal("1", "E"), Octal("1", "1", "4"), Function("16"),
         Function("1", "7", "9", "1"), Onboard("15", "0"), Relay("Mid", "19", "[]"), Relay("Base", "25", "[]"),
-        Pine("-1")}},
+        Pine("-2")}},
       {13, {Octal("x", "1"), Function("x"), Relay("Mid", "1", "5"), Pine("1", "x"), Pulses("x", "0")}},
       {9, {Onboard("1", "-1"), Onboard("14", "5")}},
       {6, {Relay("Mid", "1", "[256]"), Pulses("0", "40000")}}};

@@ -209,6 +209,8 @@ TEST(ArborSked, GivesBackTheBytesOfTheChoice) {
       {"no parameters after a number", kRowan, "3 4 0", Row(0) + kOK, {0, 5, 0}},
       {"no parameters after letters", kRowan, "6 1 0", Enter("10x") + Row(8) + kOK + Row(6) + kOK, {6, 1, 0}},
       {"no such function on the model", kLarchNova, "17 0 0", kOK, {0, 0, 0}},
+      {"no such function at all", kRowan, "5000000000 1 0", kOK, {0, 0, 0}},
+      {"between two functions", kRowan, "2.5 1 0", kOK, {0, 0, 0}},
   };
   for (const auto& one : cases) {
     SCOPED_TRACE(one.What);
@@ -236,9 +238,9 @@ TEST(ArborSked, LeavesTheBytesWithoutOK) {
 }
 
 TEST(ArborSked, FailsBeforeItIsShown) {
-  const std::tuple<const char*, const char*, int> cases[] = {{kHazelKin, "16 0 0", 380}, {kHazelKin, "-1 0 0", 380},
-                                                             {kLarchKin, "28 0 0", 380}, {kRowan, "x 0 0", 13},
-                                                             {kRowan, "3 x 0", 13},      {kRowan, "3000000000 0 0", 6}};
+  const std::tuple<const char*, const char*, int> cases[] = {
+      {kHazelKin, "16 0 0", 380}, {kHazelKin, "-1 0 0", 380}, {kLarchKin, "28 0 0", 380},
+      {kRowan, "x 0 0", 13},      {kRowan, "3 x 0", 13},      {kHazelKin, "3000000000 0 0", 6}};
   for (const auto& [panel, given, result] : cases) {
     const auto run = Open(panel, given, kOK);
     EXPECT_EQ(run.Result, result) << given;

@@ -14,7 +14,7 @@ const std::string kCodeRecord = "Function Code Ref.# and Description";
 
 /// A stored sked, each part as the command line writes it.
 struct Sked {
-  std::string Type = "1", Time = "", Edit = "0", Data = "", Func = "\"005\"", No = "0";
+  std::string Type = "1", Time = "", Edit = "0", Data = "0", Func = "\"005\"", No = "0";
 };
 
 using Strings = std::vector<std::string>;
@@ -46,8 +46,18 @@ TEST(WillowSked, TitleTellsGroupAndEntryOfANumber) {
     const auto run = Open({.No = number}, "close");
     EXPECT_EQ(run.Events("show")[0]["caption"], Text(1519, "SKED", shown));
   }
-  EXPECT_EQ(Open({.No = "x"}, "close").Result, 13);
-  EXPECT_EQ(Open({.Time = "[1]"}, "close").Result, 13);
+}
+
+TEST(WillowSked, FailsBeforeItIsShown) {
+  const std::pair<Sked, int> cases[] = {{{.No = "x"}, 13},
+                                        {{.Time = "[1]"}, 13},
+                                        {{.Type = "2", .Data = "12/31"}, 13},
+                                        {{.Type = "2", .Data = "40000"}, 6}};
+  for (const auto& [given, result] : cases) {
+    const auto run = Open(given, "");
+    EXPECT_EQ(run.Result, result) << given.Data;
+    EXPECT_TRUE(run.Events("show").empty()) << given.Data;
+  }
 }
 
 TEST(WillowSked, OkStoresWhatIsShown) {
@@ -63,7 +73,7 @@ TEST(WillowSked, OkStoresWhatIsShown) {
       {{"2", "", "0", "127"}, {Integer(2), "00:00", Integer(0), Integer(127), "005"}},
       {{"2", "", "0", "-1"}, {Integer(2), "00:00", Integer(0), Integer(127), "005"}},
       {{"2", "", "0", "\"5\""}, {Integer(2), "00:00", Integer(0), Integer(5), "005"}},
-      {{"2", "", "0", "12/31"}, {Integer(2), "00:00", Integer(0), Integer(0), "005"}},
+      {{"1", "\u00E9", "0", ""}, {Integer(1), "0\u00E9:00", Integer(0), "01/01", "005"}},
       {{"0", "", "0", "12/31"}, {Integer(0), "00:00", Integer(0), "12/31", none}},
       {{"100000", "", "0", "5L", "empty"}, {Integer(0), "00:00", Integer(0), 5, none}},
   };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "frame/controls/text_field.h"
 
 namespace orlin {
@@ -12,12 +14,18 @@ class TextBox : public Control, public TextField {
   [[nodiscard]] shown::TextField* AsTextField() noexcept override { return this; }
 
  private:
+  friend class UpDown;
   void TakeKey(const Key& key) override { TakeTextKey(key); }
   [[nodiscard]] bool KeepsEnter() const override { return MultiLine(); }
   /// Marks the text, unless it has lines.
   void EnterByTab() override {
     if (!MultiLine()) SelectAll();
   }
+  void TextChanged() override {
+    if (follow_) follow_();
+  }
+
+  std::function<void()> follow_;  // of an up-down whose value is the number in here
 };
 
 }  // namespace orlin

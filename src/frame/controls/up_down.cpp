@@ -13,7 +13,21 @@ UpDown::UpDown(const Container& in, std::string_view name, const UpDownState& st
       min_(static_cast<std::int16_t>(state.Min)),
       max_(static_cast<std::int16_t>(state.Max)),
       value_(min_),
-      buddy_(state.Buddy) {}
+      buddy_(state.Buddy),
+      followsBuddy_(state.FollowsBuddy) {
+  if (!followsBuddy_) return;
+  value_ = Start();
+  buddy_->follow_ = [this] {
+    value_ = Start();
+    Changed();
+  };
+}
+
+std::int16_t UpDown::Start() const {
+  // A box that was emptied holds no number to take up.
+  if (buddy_ == nullptr || buddy_->Text().empty()) return value_;
+  return static_cast<std::int16_t>(std::clamp<double>(NumericValue(buddy_->Text()), min_, max_));
+}
 
 void UpDown::Put(int value, By by) {
   const bool another = value != value_;
@@ -31,14 +45,10 @@ void UpDown::SetValue(int value) {
 
 Refusal UpDown::Step(shown::Direction direction) {
   if (auto refusal = OutOfReach()) return refusal;
-  double from = value_;
-  // A box that was emptied holds no number to take up.
-  if (buddy_ != nullptr && !buddy_->Text().empty()) from = NumericValue(buddy_->Text());
-  const double step = direction == shown::Direction::Up ? 1 : -1;
-  const double min = min_;
-  const double max = max_;
-  const auto fit = [=](double number) { return std::clamp(number, min, max); };
-  Put(static_cast<int>(fit(fit(from) + step)), By::Operator);
+  const int from = Start();
+  const int to = std::clamp<int>(from + (direction == shown::Direction::Up ? 1 : -1), min_, max_);
+  if (followsBuddy_ && to == from) return {};
+  Put(to, By::Operator);
   if (direction == shown::Direction::Up) {
     Raise(By::Operator, UpClick, "UpClick");
   } else {

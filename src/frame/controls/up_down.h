@@ -8,6 +8,9 @@ struct UpDownState {
   int Min = 0;
   int Max = 100;
   TextBox* Buddy = nullptr;  ///< outlives the up-down
+  /// Whether the value follows the number in the box as it changes; else a press takes it up. Then a press at a limit
+  /// does nothing, too.
+  bool FollowsBuddy = false;
   ControlState Common = {};
 };
 
@@ -32,12 +35,15 @@ class UpDown : public Control, public shown::Stepper {
   Event<> DownClick;
 
  private:
+  /// The number that a press starts from, within the limits.
+  [[nodiscard]] std::int16_t Start() const;
   void Put(int value, By by);
 
   std::int16_t min_;
   std::int16_t max_;
   std::int16_t value_;
   TextBox* buddy_;
+  bool followsBuddy_;
 };
 
 }  // namespace orlin
