@@ -175,7 +175,13 @@ TEST(ReplaceVariable, ReplacesEveryMarkerAndNothingElse) {
                                                                      {"%zone% 100%", "5", "%zone% 100%"},
                                                                      {"", "5", ""},
                                                                      {"%%ZONE%%", "5", "%5%"},
-                                                                     {"%ZO%ZONE%NE%", "", ""}};
+                                                                     {"%ZO%ZONE%NE%", "", ""},
+                                                                     {"%ZONE%, %ZONE%", "%ZONE%", "%ZONE%, %ZONE%"},
+                                                                     {"%%ZONE%ZONE%", "x%ZONE%", "%x%ZONE%ZONE%"},
+                                                                     {"%%ZONE%", "ZONE%%ZONE", "%ZONE%%ZONE"},
+                                                                     {"%ZO%ZONE%", "NE%ZO%NE", "NE%ZO%NEZO%NE"},
+                                                                     {"%%ZONE%", "ZONE%x%", "ZONE%x%x%"},
+                                                                     {"%ZONE%NE%", "%x%ZO", "%x%x%ZO"}};
   for (const auto& [text, value, result] : cases) EXPECT_EQ(ReplaceVariable(text, "ZONE", value), result) << text;
 }
 
