@@ -313,5 +313,20 @@ TEST_F(ServicesTest, LifeDecidesWhoMakesAndReleasesTheServices) {
   }
 }
 
+TEST_F(ServicesTest, APlatformThatIsInstalledDuringACallServesTheNextOne) {
+  struct Plain {
+    Dialog Form{"frmTest", "", {.InitialisesServices = true}};
+  };
+  const auto show = [](Plain& dialog) {
+    dialog.Form.ShowModal();
+    EXPECT_EQ(GetLocalText(101), "text 101");
+    return 0;
+  };
+  Host->Operate = [](shown::Dialog&) { UsePlatform({}); };
+  EXPECT_EQ(CallDialog<Plain>(show), 0);
+  EXPECT_EQ(Services().FaultObject, nullptr);
+  EXPECT_EQ(CallDialog<Plain>(show), failures::NoObject);
+}
+
 }  // namespace
 }  // namespace orlin::testing
