@@ -2,12 +2,35 @@
 
 #include "frame/conversions.h"
 #include "frame/display_protocol.h"
+#include "frame/late_members.h"
 #include "frame/public_class_of.h"
 #include "verification/frmErrorSIA_Nova.h"
 #include "verification/frmVerifyPasscodes.h"
 #include "verification/register.h"
 
 namespace orlin {
+namespace {
+
+PublicClass ErrorMessageNova() {
+  return PublicClassOf("clsErrorMessageNova", &clsErrorMessageNova::Display,
+                       {"vItemNo", "vValue", "SecurityLevels", "PanelType", "bThroughComm"});
+}
+
+}  // namespace
+
+const LateMembers& clsErrorMessageNova::Members() const {
+  using Nova = clsErrorMessageNova;
+  static const LateMembers members{
+      .Properties = {PropertyOf("ParameterName", &Nova::ParameterName), PropertyOf("AreaNo", &Nova::AreaNo),
+                     PropertyOf("DefaultVal", &Nova::DefaultVal), PropertyOf("SIARangeMin", &Nova::SIARangeMin),
+                     PropertyOf("SIARangeMax", &Nova::SIARangeMax), PropertyOf("DesiredVal", &Nova::DesiredVal),
+                     PropertyOf("AllowedCharacters", &Nova::AllowedCharacters),
+                     PropertyOf("AllowedString", &Nova::AllowedString)},
+      .Operations = {OperationOf<Nova>("Display", 5, 5, [publicClass = ErrorMessageNova()](auto&, auto& arguments) {
+        return publicClass.Display(arguments);
+      })}};
+  return members;
+}
 
 std::int32_t clsErrorMessageNova::Display(const Value& vItemNo, Value& vValue, const Value& SecurityLevels,
                                           std::int16_t PanelType, bool bThroughComm) {
@@ -28,8 +51,7 @@ std::int32_t clspasscodeLen::Display(Value& vresult, Value& vpresent, std::int16
 
 std::vector<PublicClass> VerificationClasses() {
   return {
-      PublicClassOf("clsErrorMessageNova", &clsErrorMessageNova::Display,
-                    {"vItemNo", "vValue", "SecurityLevels", "PanelType", "bThroughComm"}),
+      ErrorMessageNova(),
       PublicClassOf("clspasscodeLen", &clspasscodeLen::Display,
                     {"vresult", "vpresent", "bChangedStatus", "vPasscodeLength", "iTotalNoOfUsers", "bThroughSIA",
                      "bThroughComm", "SecurityLevels"},
