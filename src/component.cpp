@@ -1,9 +1,12 @@
 #include <algorithm>
-#include <array>
+#include <map>
+#include <memory>
 #include <string>
 
 #include "OrlinCustomDialogs/exports.h"
 #include "OrlinCustomDialogs/failure.h"
+#include "OrlinCustomDialogs/lists.h"
+#include "OrlinCustomDialogs/verification.h"
 
 #include "frame/live_objects.h"
 #include "frame/services.h"
@@ -32,7 +35,26 @@ std::vector<PublicClass> Collect() {
   return all;
 }
 
-std::string FullName(const PublicClass& publicClass) { return std::string(kComponentName) + publicClass.Name(); }
+template <class Class>
+ObjectPtr Make() {
+  return std::make_shared<Class>();
+}
+
+/// What makes an object of each public class, by its full name.
+std::map<std::string, ComponentFactory> Factories() {
+  const std::string component(kComponentName);
+  std::map<std::string, ComponentFactory> factories;
+  for (const auto& publicClass : PublicClasses()) {
+    factories[component + publicClass.Name()] = [&publicClass] { return CreateLateBound(publicClass); };
+  }
+  // These have more than a `Display`.
+  factories[component + "clsErrorMessageNova"] = Make<clsErrorMessageNova>;
+  factories[component + "clsListItem"] = Make<clsListItem>;
+  factories[component + "clsListItems"] = Make<clsListItems>;
+  factories[component + "clsRange"] = Make<clsRange>;
+  factories[component + "clsRanges"] = Make<clsRanges>;
+  return factories;
+}
 
 }  // namespace
 
@@ -59,13 +81,11 @@ std::int32_t DllGetClassObject(const char* name, const orlin::PublicClass** clas
 std::int32_t DllCanUnloadNow() { return orlin::AnyLiveObject() ? 1 : 0; }
 
 std::int32_t DllRegisterServer() {
-  for (const auto& publicClass : orlin::PublicClasses()) {
-    orlin::InstallFactory(orlin::FullName(publicClass), [&publicClass] { return orlin::CreateLateBound(publicClass); });
-  }
+  for (const auto& [name, factory] : orlin::Factories()) orlin::InstallFactory(name, factory);
   return 0;
 }
 
 std::int32_t DllUnregisterServer() {
-  for (const auto& publicClass : orlin::PublicClasses()) orlin::RemoveFactory(orlin::FullName(publicClass));
+  for (const auto& [name, factory] : orlin::Factories()) orlin::RemoveFactory(name);
   return 0;
 }

@@ -9,8 +9,8 @@ namespace orlin {
 /// cannot do, such as a click on a disabled button, is left to `DirectHands`, which tell why.
 class QtHands final : public OperatorHands {
  public:
-  /// The window of the dialog that is shown from now on; it outlives its use.
-  void Reach(DialogWindow& window) { window_ = &window; }
+  /// The window of the dialog that is shown, as it changes from one action to the next.
+  explicit QtHands(DialogWindow* const& window) : window_(window) {}
 
   Refusal Do(shown::Dialog& dialog, const actions::Select& action) override;
   Refusal Do(shown::Dialog& dialog, const actions::Click& action) override;
@@ -38,7 +38,7 @@ class QtHands final : public OperatorHands {
   void PressCell(const shown::Control& grid, int row, int col, QEvent::Type type);
 
   DirectHands direct_;
-  DialogWindow* window_ = nullptr;
+  DialogWindow* const& window_;
 };
 
 }  // namespace orlin

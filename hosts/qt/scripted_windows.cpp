@@ -8,7 +8,6 @@ void ScriptedWindows::ShowModal(shown::Dialog& dialog) {
   trace_.Shown(dialog);
   DialogWindow window(dialog, DialogWindow::Timers::Stand, nullptr);
   const QScopedValueRollback<DialogWindow*> present(window_, &window);
-  hands_.Reach(window);
   window.Open();
   window.Rethrow();
   static_cast<void>(window.TakeRefusal());

@@ -29,9 +29,9 @@ class ScriptedWindows final : public DialogHost {
 
  private:
   Trace& trace_;
-  QtHands hands_;
-  ScriptPlayer player_;
   DialogWindow* window_ = nullptr;  // while a dialog is shown
+  QtHands hands_{window_};
+  ScriptPlayer player_;
 };
 
 }  // namespace orlin

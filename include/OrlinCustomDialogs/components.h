@@ -109,7 +109,8 @@ class DListComponent : public Object {
   virtual void SetPassword(const std::string& password) = 0;
   /// The user name for the next opening; set for "ODBC" alone.
   virtual void SetUserName(const std::string& name) = 0;
-  /// Whether the next opening makes a file database that is missing. Off at creation.
+  /// Whether a file database that is missing can be opened next: it has no rows, and is made when the first one is
+  /// stored. Off at creation.
   virtual void SetMakesMissingFile(bool makes) = 0;
 
   /// Looks an entry up and fills the four properties below.

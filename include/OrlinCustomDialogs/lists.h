@@ -7,12 +7,16 @@
 #include <string>
 #include <vector>
 
+#include "OrlinCustomDialogs/late_bound.h"
 #include "OrlinCustomDialogs/value.h"
 
 // The values that a parameter may take: a list of named choices, or a list of ranges of numbers.
 //
-// A host may make such lists by itself, copy them, and carry them as values. A serialised element or list is an array
-// whose first index is 1; an element in it keeps its kind.
+// A host may make such lists by itself, by type or by name, copy them, and carry them as values. A serialised element
+// or list is an array whose first index is 1; an element in it keeps its kind.
+//
+// By name (`LateBoundObject`) the fields are properties, and so is `Count`, which can only be read; `NewEnum` returns
+// an Array of the elements from index 1.
 
 namespace [[using gnu: visibility("default")]] orlin {
 
@@ -20,7 +24,7 @@ namespace [[using gnu: visibility("default")]] orlin {
 /// letters A to Z). Elements are shared: what `Item` gives out is the element in the list, and a change to it shows
 /// there.
 template <class Element>
-class KeyedElements : public Object {
+class KeyedElements : public LateBoundObject {
  public:
   KeyedElements() = default;
   KeyedElements(const KeyedElements&) = delete;
@@ -52,7 +56,7 @@ class KeyedElements : public Object {
 };
 
 /// One choice of a list.
-class clsListItem : public Object {
+class clsListItem : public LateBoundObject {
  public:
   std::string Key;
   std::string Item;  ///< what is shown for the choice
@@ -75,10 +79,13 @@ class clsListItem : public Object {
   /// Takes all fields but `Key` from such an array, each converted to its type. A field whose element is missing or
   /// cannot be converted stays as it is. Always 0.
   std::int32_t DeSerialize(const orlin::Value& Stream);
+
+ private:
+  [[nodiscard]] const LateMembers& Members() const override;
 };
 
 /// One range of numbers.
-class clsRange : public Object {
+class clsRange : public LateBoundObject {
  public:
   std::string Key;
   Value Min;
@@ -89,6 +96,9 @@ class clsRange : public Object {
   [[nodiscard]] Value Serialize() const;
   /// As `clsListItem::DeSerialize`.
   std::int32_t DeSerialize(const Value& Stream);
+
+ private:
+  [[nodiscard]] const LateMembers& Members() const override;
 };
 
 extern template class KeyedElements<clsListItem>;
@@ -119,6 +129,9 @@ class clsListItems : public KeyedElements<clsListItem> {
   /// already, ends the reading; what has been read stays. A value that is no array changes nothing. Always an empty
   /// value.
   Value DeSerialize(const Value& Stream);
+
+ private:
+  [[nodiscard]] const LateMembers& Members() const override;
 };
 
 /// A list of ranges.
@@ -135,6 +148,9 @@ class clsRanges : public KeyedElements<clsRange> {
   [[nodiscard]] Value Serialize() const;
   /// As `clsListItems::DeSerialize`, without a number at index 1.
   Value DeSerialize(const Value& Stream);
+
+ private:
+  [[nodiscard]] const LateMembers& Members() const override;
 };
 
 }  // namespace orlin

@@ -21,14 +21,14 @@ class clsPanelNotes {
   /// `NoteHeader` is also the title. Only the type 3 is ever written to the store; others are shown and handed back.
   ///
   /// `Content`: the notes, UTF-8, lines ended by CR LF, up to 15,500 characters. Read where `IsInMemory` is true.
-  /// Receives what the dialog showed at its end, on OK, on Cancel, and also where the store then failed; a failure
-  /// before the dialog was shown leaves it as it came.
+  /// Receives what the dialog showed at its end, on OK and on Cancel; a failure, also one of the store after OK, leaves
+  /// it as it came.
   ///
   /// `FirstLine`: receives the first line of the notes, a String, on OK alone.
   ///
   /// `IsInMemory`: true, and the notes come from `Content`; else they come from the store, and a file database that
-  /// is missing is a failure. OK writes to the store in both cases, an empty text by deleting the row; a file database
-  /// that is missing is made then.
+  /// is missing is a failure. OK writes to the store in both cases, an empty text by deleting the row. Of several rows
+  /// with the same key the first is read and written. A file database that is missing is made with its first row.
   ///
   ///     std::string notes;
   ///     orlin::Value firstLine;

@@ -28,7 +28,7 @@ struct Platform {
 };
 
 /// Installs the platform for all calls to come, in place of what was installed before, and drops the shared
-/// services that an earlier call may have left. Not to be called while a dialog is shown.
+/// services that an earlier call may have left. A call that runs keeps the platform that it began with.
 void UsePlatform(Platform platform);
 
 }  // namespace orlin

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "OrlinCustomDialogs/late_bound.h"
 #include "OrlinCustomDialogs/value.h"
 
 namespace [[using gnu: visibility("default")]] orlin {
@@ -98,20 +99,13 @@ class PublicClass {
 /// The class of that name, with or without "OrlinCustomDialogs." before it, or null.
 [[nodiscard]] const PublicClass* FindPublicClass(std::string_view name);
 
-/// An object of a public class that is called by name. The result and the arguments are those of
+/// A new object of the class, whose one operation is `Display`. The result and the arguments are those of
 /// `PublicClass::Display`, which tells what to store of them.
 ///
 ///     DllRegisterServer();
 ///     auto object = std::dynamic_pointer_cast<orlin::LateBoundObject>(
 ///         orlin::CreateObject("OrlinCustomDialogs.clsZoneFunctionsWillow"));
 ///     const auto result = object->Invoke("Display", arguments);
-class LateBoundObject : public Object {
- public:
-  /// Calls an operation by its name; `Failure` 5 for a name that the class does not have.
-  virtual Value Invoke(std::string_view operation, std::vector<Value>& arguments) = 0;
-};
-
-/// A new object of the class.
 [[nodiscard]] std::shared_ptr<LateBoundObject> CreateLateBound(const PublicClass& publicClass);
 
 }  // namespace orlin

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "OrlinCustomDialogs/late_bound.h"
 #include "OrlinCustomDialogs/value.h"
 
 // Verification of whole accounts.
@@ -12,8 +13,9 @@
 namespace [[using gnu: visibility("default")]] orlin {
 
 /// Reviews the parameters of an account that lie outside the ranges of SIA CP-01, the standard for the reduction of
-/// false alarms, and lets the operator correct them or give up compliance. Also the record of one kind of parameter.
-class clsErrorMessageNova {
+/// false alarms, and lets the operator correct them or give up compliance. Also the record of one kind of parameter,
+/// whose fields are properties where it is reached by name.
+class clsErrorMessageNova : public LateBoundObject {
  public:
   std::string ParameterName;
   std::int16_t AreaNo = 0;        ///< not used by the review
@@ -44,6 +46,9 @@ class clsErrorMessageNova {
   /// where the dialog itself cannot be created.
   std::int32_t Display(const Value& vItemNo, Value& vValue, const Value& SecurityLevels, std::int16_t PanelType,
                        bool bThroughComm);
+
+ private:
+  [[nodiscard]] const LateMembers& Members() const override;
 };
 
 /// Lets the operator correct the passcodes of users that a change of the passcode length has made too short, or that

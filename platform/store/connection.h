@@ -34,9 +34,18 @@ class Connection : public Database {
   /// How long a write that met another one is tried again.
   [[nodiscard]] virtual std::chrono::seconds Patience() const noexcept = 0;
 
-  /// Whether the table is there; makes it where it is one that the store makes itself and `mayMake` is set. A table
-  /// that is missing for good is a `Failure`; false means one that nobody has written to yet.
-  virtual bool FindTable(const std::string& table, bool mayMake) = 0;
+  /// False for a database that `Make` is still to make; nothing but that can be done with it.
+  [[nodiscard]] virtual bool Exists() const noexcept { return true; }
+  virtual void Make() {}
+  /// Whether the table is there. One that is missing for good is a `Failure`; false means one that nobody has written
+  /// to yet.
+  [[nodiscard]] virtual bool FindTable(const std::string& table) = 0;
+  /// Makes a table that `FindTable` does not find.
+  virtual void MakeTable(const std::string& table) = 0;
+
+  /// An expression that is a text of its own for each row of a table, while a transaction lasts; not every table has
+  /// it. Empty where no table has.
+  [[nodiscard]] virtual std::string RowIdentity() const = 0;
   [[nodiscard]] virtual std::optional<Row> FirstRow(const std::string& statement, const std::vector<Value>& values) = 0;
   virtual void Execute(const std::string& statement, const std::vector<Value>& values) = 0;
 };

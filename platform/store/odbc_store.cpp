@@ -18,6 +18,10 @@ static_assert(sizeof(SQLWCHAR) == sizeof(char16_t));
 // More characters than any variable-length column surely holds: from here on a value is bound as a long text.
 constexpr std::size_t kMostOfVariableText = 4000;
 
+// How databases name themselves.
+constexpr std::string_view kSqlite = "SQLite";
+constexpr std::string_view kPostgres = "PostgreSQL";
+
 /// What a driver says of the last call: a state of five characters, and a number of its own.
 struct Diagnosis {
   std::string State;
@@ -137,7 +141,7 @@ class OdbcConnection : public Connection {
         patience_(options.Patience),
         mostForStatement_(options.MostForStatement),
         quote_(Information(SQL_IDENTIFIER_QUOTE_CHAR)),
-        isSqlite_(Information(SQL_DBMS_NAME) == "SQLite") {}
+        dbms_(Information(SQL_DBMS_NAME)) {}
   OdbcConnection(const OdbcConnection&) = delete;
   OdbcConnection& operator=(const OdbcConnection&) = delete;
   ~OdbcConnection() override { OdbcConnection::Close(); }
@@ -156,7 +160,7 @@ class OdbcConnection : public Connection {
   }
   void Commit() override {
     if (!SQL_SUCCEEDED(SQLEndTran(SQL_HANDLE_DBC, link_.get(), SQL_COMMIT))) {
-      Refuse(DiagnosisOf(SQL_HANDLE_DBC, link_.get()), isSqlite_);
+      Refuse(DiagnosisOf(SQL_HANDLE_DBC, link_.get()), dbms_ == kSqlite);
     }
     SQLSetConnectAttr(link_.get(), SQL_ATTR_AUTOCOMMIT, AsPointer(SQL_AUTOCOMMIT_ON), 0);
   }
@@ -167,8 +171,16 @@ class OdbcConnection : public Connection {
   }
   std::chrono::seconds Patience() const noexcept override { return patience_; }
 
-  // The lookup itself tells of a table that is missing.
-  bool FindTable(const std::string& /*table*/, bool /*mayMake*/) override { return true; }
+  // The lookup itself tells of a table that is missing, and its administrator makes it.
+  bool FindTable(const std::string& /*table*/) override { return true; }
+  void MakeTable(const std::string& /*table*/) override { throw Failure(failures::NoSuchTable); }
+
+  std::string RowIdentity() const override {
+    if (dbms_ == kSqlite) return "CAST(_rowid_ AS TEXT)";
+    // A row of a table that is split up is unique within its part.
+    if (dbms_ == kPostgres) return "CAST(tableoid AS text) || CAST(ctid AS text)";
+    return {};
+  }
 
   std::optional<Row> FirstRow(const std::string& text, const std::vector<Value>& values) override {
     const auto statement = NewStatement();
@@ -199,13 +211,13 @@ class OdbcConnection : public Connection {
 
  private:
   void Check(SQLRETURN result, const Statement& statement) const {
-    if (!SQL_SUCCEEDED(result)) Refuse(DiagnosisOf(SQL_HANDLE_STMT, statement.get()), isSqlite_);
+    if (!SQL_SUCCEEDED(result)) Refuse(DiagnosisOf(SQL_HANDLE_STMT, statement.get()), dbms_ == kSqlite);
   }
 
   void SetAttribute(SQLINTEGER attribute, SQLULEN value) {
     if (link_ == nullptr) throw Failure(failures::NoObject);
     if (!SQL_SUCCEEDED(SQLSetConnectAttr(link_.get(), attribute, AsPointer(value), 0))) {
-      Refuse(DiagnosisOf(SQL_HANDLE_DBC, link_.get()), isSqlite_);
+      Refuse(DiagnosisOf(SQL_HANDLE_DBC, link_.get()), dbms_ == kSqlite);
     }
   }
 
@@ -273,7 +285,7 @@ class OdbcConnection : public Connection {
   std::chrono::seconds patience_;
   std::chrono::seconds mostForStatement_;
   std::string quote_;
-  bool isSqlite_;
+  std::string dbms_;
 };
 
 }  // namespace

@@ -25,6 +25,13 @@ constexpr std::array<KnownTable, 1> kKnownTables{{
      "\"Memo\" TEXT NOT NULL, PRIMARY KEY (\"PanelGUID\", \"NoteHeader\", \"NoteTypeID\")"},
 }};
 
+const KnownTable& KnownTableNamed(const std::string& name) {
+  const auto known = std::find_if(kKnownTables.begin(), kKnownTables.end(),
+                                  [&](const auto& one) { return strcasecmp(one.Name, name.c_str()) == 0; });
+  if (known == kKnownTables.end()) throw Failure(failures::NoSuchTable);
+  return *known;
+}
+
 std::int32_t FailureOf(int code) {
   switch (code & 0xff) {
     case SQLITE_BUSY:
@@ -90,10 +97,17 @@ void MakeFile(const std::filesystem::path& file) {
   }
 }
 
+bool IsMissing(const std::filesystem::path& file) {
+  std::error_code unknown;
+  return std::filesystem::symlink_status(file, unknown).type() == std::filesystem::file_type::not_found;
+}
+
 class SqliteConnection : public Connection {
  public:
-  SqliteConnection(DatabaseHandle database, std::chrono::seconds patience)
-      : database_(std::move(database)), patience_(patience) {}
+  SqliteConnection(std::filesystem::path file, const SqliteOptions& options)
+      : file_(std::move(file)), options_(options) {
+    if (options_.ReadOnly || !options_.MakesMissingFile || !IsMissing(file_)) Open();
+  }
 
   std::string Quoted(const std::string& name) const override {
     std::string quoted = "\"";
@@ -107,16 +121,25 @@ class SqliteConnection : public Connection {
   void Rollback() noexcept override {
     if (database_ != nullptr) sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
   }
-  std::chrono::seconds Patience() const noexcept override { return patience_; }
+  std::chrono::seconds Patience() const noexcept override { return options_.Patience; }
 
-  bool FindTable(const std::string& table, bool mayMake) override {
-    if (FirstRow("SELECT name FROM sqlite_master WHERE name = ? COLLATE NOCASE", {table})) return true;
-    const auto known = std::find_if(kKnownTables.begin(), kKnownTables.end(),
-                                    [&](const auto& one) { return strcasecmp(one.Name, table.c_str()) == 0; });
-    if (known == kKnownTables.end()) throw Failure(failures::NoSuchTable);
-    if (mayMake) Execute("CREATE TABLE " + Quoted(known->Name) + " (" + known->Columns + ")", {});
-    return mayMake;
+  bool Exists() const noexcept override { return database_ != nullptr || closed_; }
+  void Make() override {
+    if (Exists()) return;
+    MakeFile(file_);
+    Open();
   }
+  bool FindTable(const std::string& table) override {
+    if (FirstRow("SELECT name FROM sqlite_master WHERE name = ? COLLATE NOCASE", {table})) return true;
+    static_cast<void>(KnownTableNamed(table));
+    return false;
+  }
+  void MakeTable(const std::string& table) override {
+    const auto& known = KnownTableNamed(table);
+    Execute("CREATE TABLE " + Quoted(known.Name) + " (" + known.Columns + ")", {});
+  }
+
+  std::string RowIdentity() const override { return "CAST(_rowid_ AS TEXT)"; }
 
   std::optional<Row> FirstRow(const std::string& statement, const std::vector<Value>& values) override {
     const auto prepared = Prepare(statement, values);
@@ -135,9 +158,28 @@ class SqliteConnection : public Connection {
     CheckStep(sqlite3_step(prepared.get()), database_.get());
   }
 
-  void Close() override { database_.reset(); }
+  void Close() override {
+    database_.reset();
+    closed_ = true;
+  }
 
  private:
+  void Open() {
+    const int access = options_.ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+    sqlite3* opened = nullptr;
+    const int code = sqlite3_open_v2(file_.c_str(), &opened, access, nullptr);
+    DatabaseHandle database(opened);
+    Check(code);
+    Check(sqlite3_extended_result_codes(opened, 1));
+    Check(sqlite3_busy_timeout(opened, static_cast<int>(std::chrono::milliseconds(options_.Patience).count())));
+    Check(sqlite3_exec(opened, "PRAGMA synchronous = EXTRA", nullptr, nullptr, nullptr));
+    // SQLite opens a file of any content; the first look into it tells whether it is a database.
+    Check(sqlite3_exec(opened, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr));
+    // Where it had another journal and nobody else uses it; a commit is safe with either.
+    if (!options_.ReadOnly) sqlite3_exec(opened, "PRAGMA journal_mode = DELETE", nullptr, nullptr, nullptr);
+    database_ = std::move(database);
+  }
+
   StatementHandle Prepare(const std::string& statement, const std::vector<Value>& values) {
     if (database_ == nullptr) throw Failure(failures::NoObject);
     sqlite3_stmt* made = nullptr;
@@ -171,27 +213,16 @@ class SqliteConnection : public Connection {
     }
   }
 
+  std::filesystem::path file_;
+  SqliteOptions options_;
   DatabaseHandle database_;
-  std::chrono::seconds patience_;
+  bool closed_ = false;
 };
 
 }  // namespace
 
 std::shared_ptr<Connection> OpenSqlite(const std::filesystem::path& file, const SqliteOptions& options) {
-  if (options.MakesMissingFile && !options.ReadOnly) MakeFile(file);
-  sqlite3* opened = nullptr;
-  const int code =
-      sqlite3_open_v2(file.c_str(), &opened, options.ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE, nullptr);
-  DatabaseHandle database(opened);
-  Check(code);
-  Check(sqlite3_extended_result_codes(opened, 1));
-  Check(sqlite3_busy_timeout(opened, static_cast<int>(std::chrono::milliseconds(options.Patience).count())));
-  Check(sqlite3_exec(opened, "PRAGMA synchronous = EXTRA", nullptr, nullptr, nullptr));
-  // SQLite opens a file of any content; the first look into it tells whether it is a database.
-  Check(sqlite3_exec(opened, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr));
-  // Where it had another journal and nobody else uses it; a commit is safe with either.
-  if (!options.ReadOnly) sqlite3_exec(opened, "PRAGMA journal_mode = DELETE", nullptr, nullptr, nullptr);
-  return std::make_shared<SqliteConnection>(std::move(database), options.Patience);
+  return std::make_shared<SqliteConnection>(file, options);
 }
 
 }  // namespace orlin

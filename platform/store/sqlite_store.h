@@ -9,6 +9,7 @@
 namespace orlin {
 
 struct SqliteOptions {
+  /// A file that is missing opens; `Connection::Make` makes it, with its folders.
   bool MakesMissingFile = false;
   bool ReadOnly = false;
   /// How long another program that writes is waited for.

@@ -6,6 +6,8 @@
 
 #include <strings.h>
 
+#include "OrlinCustomDialogs/public_classes.h"
+
 namespace orlin {
 namespace {
 
@@ -47,13 +49,22 @@ class StoredRows::Field : public RecordsetField {
   std::string name_;
 };
 
-StoredRows::StoredRows(std::shared_ptr<Connection> connection, Query query, bool writes)
-    : connection_(std::move(connection)), query_(std::move(query)), writes_(writes) {
-  table_ = connection_->Quoted(query_.Table);
-  for (const auto& [column, wanted] : query_.Conditions) {
-    where_.Statement += (where_.Values.empty() ? " WHERE " : " AND ") + connection_->Quoted(column) + " = ?";
-    where_.Values.push_back(wanted);
+void StoredRows::Where::And(const std::string& expression, const Value& wanted) {
+  Statement += (Statement.empty() ? " WHERE " : " AND ") + expression;
+  if (wanted.IsEmpty()) {
+    Statement += " IS NULL";
+  } else {
+    Statement += " = ?";
+    Values.push_back(wanted);
   }
+}
+
+StoredRows::StoredRows(std::shared_ptr<Connection> connection, Query query, bool writes)
+    : connection_(std::move(connection)), query_(std::move(query)), mayWrite_(writes) {
+  table_ = connection_->Quoted(query_.Table);
+  for (const auto& [column, wanted] : query_.Conditions) where_.And(connection_->Quoted(column), wanted);
+  // Before the transaction, which a statement that fails may end.
+  if (writes) identity_ = FindIdentity();
   try {
     UntilNoConflict([this] { Start(); });
   } catch (...) {
@@ -62,8 +73,19 @@ StoredRows::StoredRows(std::shared_ptr<Connection> connection, Query query, bool
   }
 }
 
+std::string StoredRows::FindIdentity() {
+  auto identity = connection_->RowIdentity();
+  if (identity.empty() || !connection_->Exists()) return {};
+  try {
+    static_cast<void>(connection_->FirstRow("SELECT " + identity + " FROM " + table_ + " WHERE 1 = 0", {}));
+    return identity;
+  } catch (const Failure&) {
+    return {};
+  }
+}
+
 void StoredRows::Start() {
-  if (writes_) {
+  if (mayWrite_ && connection_->Exists()) {
     connection_->Begin();
     inTransaction_ = true;
   }
@@ -72,8 +94,26 @@ void StoredRows::Start() {
 
 void StoredRows::LookUp() {
   row_.reset();
-  if (!connection_->FindTable(query_.Table, writes_)) return;
-  row_ = connection_->FirstRow("SELECT * FROM " + table_ + where_.Statement, where_.Values);
+  if (!connection_->Exists() || !connection_->FindTable(query_.Table)) return;
+  const auto columns = identity_.empty() ? "*" : table_ + ".*, " + identity_;
+  row_ = connection_->FirstRow("SELECT " + columns + " FROM " + table_ + where_.Statement, where_.Values);
+  if (!row_ || identity_.empty()) return;
+  rowIdentity_ = row_->back().second;
+  row_->pop_back();
+}
+
+bool StoredRows::IsOneRow(const Where& where) {
+  const auto count = connection_->FirstRow("SELECT count(*) FROM " + table_ + where.Statement, where.Values);
+  return count && Converted(count->front().second, ParameterKind::Long) == Value(1);
+}
+
+StoredRows::Where StoredRows::CurrentRow() {
+  auto where = where_;
+  if (!identity_.empty()) where.And(identity_, rowIdentity_);
+  if (IsOneRow(where)) return where;
+  for (const auto& [name, value] : *row_) where.And(connection_->Quoted(name), value);
+  if (!IsOneRow(where)) throw Failure(failures::DatabaseCallFailed);
+  return where;
 }
 
 RecordsetField& StoredRows::Fields(const std::string& name) {
@@ -91,11 +131,12 @@ RecordsetField& StoredRows::Fields(const std::string& name) {
 void StoredRows::Close() {
   if (inTransaction_) connection_->Rollback();
   inTransaction_ = false;
+  mayWrite_ = false;
   begun_.reset();
 }
 
 void StoredRows::AddNew() {
-  if (!inTransaction_) throw Failure(failures::DatabaseReadOnly);
+  if (!mayWrite_) throw Failure(failures::DatabaseReadOnly);
   begun_.emplace();
 }
 
@@ -112,9 +153,13 @@ void StoredRows::Update() {
 }
 
 void StoredRows::Delete() {
-  if (!inTransaction_) throw Failure(failures::DatabaseReadOnly);
+  if (!mayWrite_) throw Failure(failures::DatabaseReadOnly);
   if (!row_) throw Failure(failures::InvalidCall);
-  Store([&] { connection_->Execute("DELETE FROM " + table_ + where_.Statement, where_.Values); });
+  Store([&] {
+    if (!row_) return;  // another program was faster
+    const auto where = CurrentRow();
+    connection_->Execute("DELETE FROM " + table_ + where.Statement, where.Values);
+  });
   row_.reset();
 }
 
@@ -137,14 +182,19 @@ void StoredRows::UntilNoConflict(Steps steps) {
 template <class Write>
 void StoredRows::Store(Write write) {
   UntilNoConflict([&] {
-    if (!inTransaction_) Start();
+    if (!inTransaction_) {
+      connection_->Make();
+      Start();
+    }
     write();
     connection_->Commit();
     inTransaction_ = false;
   });
+  mayWrite_ = false;
 }
 
 void StoredRows::Insert(const Connection::Row& columns) {
+  if (!connection_->FindTable(query_.Table)) connection_->MakeTable(query_.Table);
   std::string names;
   std::string places;
   std::vector<Value> values;
@@ -163,8 +213,9 @@ void StoredRows::Change(const Connection::Row& columns) {
     settings += (values.empty() ? "" : ", ") + connection_->Quoted(name) + " = ?";
     values.push_back(value);
   }
-  values.insert(values.end(), where_.Values.begin(), where_.Values.end());
-  connection_->Execute("UPDATE " + table_ + " SET " + settings + where_.Statement, values);
+  const auto where = CurrentRow();
+  values.insert(values.end(), where.Values.begin(), where.Values.end());
+  connection_->Execute("UPDATE " + table_ + " SET " + settings + where.Statement, values);
 }
 
 }  // namespace orlin

@@ -11,7 +11,8 @@ namespace {
 
 // The one process-wide state of the library. It is not guarded: all calls come on the host's thread.
 struct Process {
-  Platform Installed;
+  PlatformPtr Installed = std::make_shared<const Platform>();  // for the calls to come
+  PlatformPtr InUse;                                           // by the call that runs; null between calls
   std::map<std::string, ComponentFactory, std::less<>> Registered;
   SharedServices Shared;
 };
@@ -30,11 +31,29 @@ Service& Need(const std::shared_ptr<Service>& service, const char* what) {
 }  // namespace
 
 void UsePlatform(Platform platform) {
-  ReleaseSharedServices();
-  TheProcess().Installed = std::move(platform);
+  auto& process = TheProcess();
+  if (process.InUse == nullptr) ReleaseSharedServices();
+  process.Installed = std::make_shared<const Platform>(std::move(platform));
 }
 
-const Platform& InstalledPlatform() noexcept { return TheProcess().Installed; }
+RunningCall::RunningCall() noexcept : outerPlatform_(std::exchange(TheProcess().InUse, TheProcess().Installed)) {
+  if (outerPlatform_ != nullptr) outerServices_ = std::exchange(Services(), {});
+}
+
+RunningCall::~RunningCall() {
+  auto& process = TheProcess();
+  if (outerPlatform_ != nullptr) {
+    process.Shared = std::move(outerServices_);
+  } else if (process.InUse != process.Installed) {
+    ReleaseSharedServices();
+  }
+  process.InUse = std::move(outerPlatform_);
+}
+
+const Platform& InstalledPlatform() noexcept {
+  const auto& process = TheProcess();
+  return process.InUse != nullptr ? *process.InUse : *process.Installed;
+}
 
 SharedServices& Services() noexcept { return TheProcess().Shared; }
 
@@ -58,7 +77,7 @@ void InstallFactory(const std::string& name, ComponentFactory factory) {
 void RemoveFactory(const std::string& name) { TheProcess().Registered.erase(name); }
 
 ObjectPtr CreateObject(std::string_view name) {
-  for (const auto* factories : {&TheProcess().Installed.Components, &TheProcess().Registered}) {
+  for (const auto* factories : {&InstalledPlatform().Components, &std::as_const(TheProcess()).Registered}) {
     const auto found = factories->find(name);
     if (found == factories->end() || !found->second) continue;
     if (auto object = found->second()) return object;

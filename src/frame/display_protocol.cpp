@@ -1,7 +1,5 @@
 #include "frame/display_protocol.h"
 
-#include "frame/services.h"
-
 namespace orlin {
 namespace {
 

@@ -6,6 +6,7 @@
 
 #include "frame/dialog.h"
 #include "frame/failure.h"
+#include "frame/services.h"
 
 namespace orlin {
 
@@ -38,6 +39,7 @@ struct DisplaySteps {
 /// One call of a public class: creates the dialog, runs its `Display` and drops it. A failure becomes the result.
 template <class Form, class Call>
 [[nodiscard]] std::int32_t CallDialog(Call call) {
+  const RunningCall running;
   try {
     Form dialog;
     return call(dialog);
@@ -49,6 +51,7 @@ template <class Form, class Call>
 /// The same in the public classes that have no failure handler: a failure reaches the host.
 template <class Form, class Call>
 [[nodiscard]] std::int32_t CallDialogUnguarded(Call call) {
+  const RunningCall running;
   Form dialog;
   return call(dialog);
 }

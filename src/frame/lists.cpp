@@ -5,6 +5,7 @@
 
 #include "frame/conversions.h"
 #include "frame/failure.h"
+#include "frame/late_members.h"
 
 namespace orlin {
 namespace {
@@ -21,6 +22,43 @@ Value AsStored(Value value) { return value; }
 template <class Field, class Convert>
 void Take(Field& field, const Value& form, std::int32_t index, Convert convert) {
   SkipFailure([&] { field = convert(ElementOf(form, index)); });
+}
+
+// ---------------------------------------------------------------------------------------------- by name
+
+using Arguments = std::vector<Value>;
+
+/// An argument, or what stands for one that is not given.
+Value Given(const Arguments& arguments, std::size_t place, Value otherwise = {}) {
+  return place < arguments.size() ? arguments[place] : std::move(otherwise);
+}
+
+/// The members of a list, without its own properties and `Add`.
+template <class List>
+LateMembers MembersOfList() {
+  return {
+      .Properties = {{"Count", [](const auto& list) { return Value(dynamic_cast<const List&>(list).Count()); }, {}}},
+      .Operations = {
+          OperationOf<List>("Copy", 1, 1,
+                            [](auto& list, Arguments& given) { return list.Copy(ObjectOf<List>(given[0])); }),
+          OperationOf<List>("Serialize", 0, 0, [](auto& list, Arguments&) { return list.Serialize(); }),
+          OperationOf<List>("DeSerialize", 1, 1,
+                            [](auto& list, Arguments& given) { return list.DeSerialize(given[0]); }),
+          OperationOf<List>("Item", 1, 1, [](auto& list, Arguments& given) { return list.Item(given[0]); }),
+          OperationOf<List>("Remove", 1, 1,
+                            [](auto& list, Arguments& given) { return list.Remove(given[0]), Value(); }),
+          OperationOf<List>("NewEnum", 0, 0, [](auto& list, Arguments&) {
+            return Array(Arguments(list.begin(), list.end()), kFirstIndex);
+          })}};
+}
+
+template <class Element>
+LateMembers MembersOfElement(std::vector<LateMembers::Property> fields) {
+  return {.Properties = std::move(fields),
+          .Operations = {
+              OperationOf<Element>("Serialize", 0, 0, [](auto& element, Arguments&) { return element.Serialize(); }),
+              OperationOf<Element>("DeSerialize", 1, 1,
+                                   [](auto& element, Arguments& given) { return element.DeSerialize(given[0]); })}};
 }
 
 }  // namespace
@@ -103,6 +141,23 @@ std::int32_t clsListItem::DeSerialize(const orlin::Value& Stream) {
   return 0;
 }
 
+const LateMembers& clsListItem::Members() const {
+  static const LateMembers members = [] {
+    auto all = MembersOfElement<clsListItem>(
+        {PropertyOf("Key", &clsListItem::Key), PropertyOf("Item", &clsListItem::Item),
+         PropertyOf("Value", &clsListItem::Value), PropertyOf("Color", &clsListItem::Color),
+         PropertyOf("Description", &clsListItem::Description), PropertyOf("Hidden", &clsListItem::Hidden),
+         PropertyOf("Dynamic", &clsListItem::Dynamic), PropertyOf("i", &clsListItem::i),
+         PropertyOf("S", &clsListItem::S), PropertyOf("P", &clsListItem::P)});
+    all.Operations.push_back(OperationOf<clsListItem>("Copy", 1, 1, [](auto& item, Arguments& given) {
+      if (given[0].kind() == orlin::Value::Kind::Object) item.Copy(ObjectOf<clsListItem>(given[0]));
+      return orlin::Value();
+    }));
+    return all;
+  }();
+  return members;
+}
+
 std::shared_ptr<clsListItem> clsListItems::Add(const std::string& sKey, const std::string& Item,
                                                const orlin::Value& Value) {
   auto added = Append(sKey);
@@ -140,6 +195,18 @@ Value clsListItems::DeSerialize(const Value& Stream) {
     }
   });
   return {};
+}
+
+const LateMembers& clsListItems::Members() const {
+  static const LateMembers members = [] {
+    auto all = MembersOfList<clsListItems>();
+    all.Properties.push_back(PropertyOf("iDisplayValueSelection", &clsListItems::iDisplayValueSelection));
+    all.Operations.push_back(OperationOf<clsListItems>("Add", 1, 3, [](auto& list, Arguments& given) {
+      return list.Add(ToText(given[0]), ToText(Given(given, 1)), Given(given, 2));
+    }));
+    return all;
+  }();
+  return members;
 }
 
 // ---------------------------------------------------------------------------------------------- ranges
@@ -189,6 +256,25 @@ Value clsRanges::DeSerialize(const Value& Stream) {
     }
   });
   return {};
+}
+
+const LateMembers& clsRange::Members() const {
+  static const auto members =
+      MembersOfElement<clsRange>({PropertyOf("Key", &clsRange::Key), PropertyOf("Min", &clsRange::Min),
+                                  PropertyOf("Max", &clsRange::Max), PropertyOf("Color", &clsRange::Color)});
+  return members;
+}
+
+const LateMembers& clsRanges::Members() const {
+  static const LateMembers members = [] {
+    auto all = MembersOfList<clsRanges>();
+    all.Operations.push_back(OperationOf<clsRanges>("Add", 1, 3, [](auto& list, Arguments& given) {
+      constexpr std::int16_t none = 0;
+      return list.Add(ToText(given[0]), Given(given, 1, none), Given(given, 2, none));
+    }));
+    return all;
+  }();
+  return members;
 }
 
 }  // namespace orlin

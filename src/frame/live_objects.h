@@ -2,7 +2,7 @@
 
 namespace orlin {
 
-/// Whether a host still holds an object of a public class that it created by name.
+/// Whether anybody still holds an object that can be called by name.
 [[nodiscard]] bool AnyLiveObject() noexcept;
 
 }  // namespace orlin

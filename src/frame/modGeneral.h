@@ -17,7 +17,9 @@ inline constexpr std::string_view kAppName = "Tolmar";
 /// The same with the variable %sName% of the text replaced.
 [[nodiscard]] std::string GetLocalText(std::int16_t id, const std::string& sName, const std::string& sValue);
 
-/// The text with every marker %sName% replaced. Upper and lower case differ.
+/// The text with every marker %sName% replaced, also one that a value makes with the text beside it; a value that
+/// would bring its marker forth without end goes in once for each marker of the text. Upper and lower case differ; a
+/// name has no percent sign.
 [[nodiscard]] std::string ReplaceVariable(const std::string& sText, const std::string& sName,
                                           const std::string& sValue);
 

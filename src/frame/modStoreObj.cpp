@@ -26,12 +26,6 @@ constexpr const char* kUserID = "OrlinCustomDialogs";
 
 std::string Setting(const std::string& name) { return GetRegSetting(std::string(kAppName), "Setup", name, ""); }
 
-DListComponent& Store() {
-  const auto& store = Services().Store;
-  if (store == nullptr) throw Failure(failures::NoObject);
-  return *store;
-}
-
 std::string PathMessage(std::int16_t id, const std::string& path) {
   return ReplaceVariableFor("modStoreObj", GetLocalText(id), "DB_PATH", path);
 }
@@ -80,6 +74,12 @@ void OpenOdbcDatabase(const std::string& sListName, DatabasePtr& db) {
 }
 
 }  // namespace
+
+DListComponent& Store() {
+  const auto& store = Services().Store;
+  if (store == nullptr) throw Failure(failures::NoObject);
+  return *store;
+}
 
 std::int32_t InitStoreObj() {
   auto& services = Services();

@@ -6,7 +6,6 @@
 #include "OrlinCustomDialogs/failure.h"
 
 #include "frame/conversions.h"
-#include "frame/live_objects.h"
 
 namespace orlin {
 
@@ -88,14 +87,9 @@ std::vector<Value> PublicClass::StoredFrom(std::vector<Value> stored, const std:
 
 namespace {
 
-std::int32_t liveObjects = 0;
-
 class ObjectOfPublicClass final : public LateBoundObject {
  public:
-  explicit ObjectOfPublicClass(const PublicClass& publicClass) : class_(publicClass) { ++liveObjects; }
-  ObjectOfPublicClass(const ObjectOfPublicClass&) = delete;
-  ObjectOfPublicClass& operator=(const ObjectOfPublicClass&) = delete;
-  ~ObjectOfPublicClass() override { --liveObjects; }
+  explicit ObjectOfPublicClass(const PublicClass& publicClass) : class_(publicClass) {}
 
   Value Invoke(std::string_view operation, std::vector<Value>& arguments) override {
     if (!SameName(operation, "Display")) {
@@ -113,7 +107,5 @@ class ObjectOfPublicClass final : public LateBoundObject {
 std::shared_ptr<LateBoundObject> CreateLateBound(const PublicClass& publicClass) {
   return std::make_shared<ObjectOfPublicClass>(publicClass);
 }
-
-bool AnyLiveObject() noexcept { return liveObjects > 0; }
 
 }  // namespace orlin

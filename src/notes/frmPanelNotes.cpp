@@ -46,7 +46,7 @@ std::string QueryFor(const NoteKey& key) {
 class StoredNotes {
  public:
   StoredNotes(const NoteKey& key, DListComponent::Mode mode) {
-    // The first note of all makes the file that holds it; where notes are read, a file has to be there.
+    // Where notes are read, a file has to be there; the first note that is stored makes it.
     Store().SetMakesMissingFile(mode == DListComponent::Writing);
     RaiseResult(OpenSecureDB(kPanelNotes, db_, false));
     try {
@@ -78,8 +78,6 @@ class StoredNotes {
 
  private:
   static constexpr std::int16_t kRows = DListComponent::kDynamicRows;
-
-  static DListComponent& Store() { return *Services().Store; }
 
   void Close() noexcept {
     SkipFailure(
@@ -113,20 +111,16 @@ std::int32_t frmPanelNotes::Display(const std::string& PanelGUID, const std::str
     Form.SetCaption(GetLocalText(1378, "TITLE", NoteHeader));
   };
   steps.Conclude = [&] {
-    // First, for a store that fails must not cost the operator his text.
-    Content = txtPanelNotes.Text();
-    if (Form.ExitCode() != ExitCode::OK) return kNotConfirmed;
-
-    StoredNotes stored(key, DListComponent::Writing);
-    if (NoteTypeID == kStoredNoteType) {
-      if (Content.empty()) {
-        stored.Delete();
-      } else {
-        stored.Save(key, Content);
-      }
+    const auto notes = txtPanelNotes.Text();
+    const bool confirmed = Form.ExitCode() == ExitCode::OK;
+    if (confirmed) {
+      StoredNotes stored(key, DListComponent::Writing);
+      if (NoteTypeID == kStoredNoteType) notes.empty() ? stored.Delete() : stored.Save(key, notes);
+      FirstLine = notes.substr(0, notes.find(kLineEnd));
     }
-    FirstLine = Content.substr(0, Content.find(kLineEnd));
-    return kConfirmed;
+    // On Cancel too, but not where the store failed.
+    Content = notes;
+    return confirmed ? kConfirmed : kNotConfirmed;
   };
   steps.Report = [](const Failure& failure) { ReportFault(kDisplayFault, failure, failure.Description()); };
   return RunDisplay(Form, steps);

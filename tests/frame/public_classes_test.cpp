@@ -74,6 +74,103 @@ TEST(PublicClass, KeepsStoredValuesByTheUsualRuleOrItsOwn) {
   EXPECT_EQ(FailureOf([&] { static_cast<void>(own.StoredFrom(stored, {})); }), failures::InvalidCall);
 }
 
+class LateBinding : public FrameTest {
+ protected:
+  LateBinding() { DllRegisterServer(); }
+  ~LateBinding() override {
+    EXPECT_EQ(DllCanUnloadNow(), 0);
+    DllUnregisterServer();
+  }
+  static std::shared_ptr<LateBoundObject> Make(const std::string& name) {
+    return std::dynamic_pointer_cast<LateBoundObject>(CreateObject("OrlinCustomDialogs." + name));
+  }
+  static Value Call(LateBoundObject& object, std::string_view operation, std::vector<Value> arguments = {}) {
+    return object.Invoke(operation, arguments);
+  }
+  static LateBoundObject& In(const Value& value) {
+    return dynamic_cast<LateBoundObject&>(*value.Get<ObjectPtr>()->get());
+  }
+};
+
+TEST_F(LateBinding, PropertiesConvertWhatTheyAreSetTo) {
+  const Value one = std::int16_t{1};
+  const struct {
+    const char* Class;
+    std::vector<const char*> Properties;
+    Value Given, Held;
+    int Failure = 0;
+  } cases[] = {
+      {"clsListItem", {"Key", "Item", "description"}, 1.5, "1.5"},
+      {"clsListItem", {"COLOR"}, "7", 7},
+      {"clsListItem", {"Hidden", "Dynamic"}, "True", true},
+      {"clsListItem", {"i", "S", "p"}, true, std::int16_t{-1}},
+      {"clsListItem", {"Value"}, Array({"any"}), Array({"any"})},
+      {"clsRange", {"Key"}, 1, "1"},
+      {"clsRange", {"Min", "Max"}, 2.5, 2.5},
+      {"clsRange", {"Color"}, one, 1},
+      {"clsListItems", {"iDisplayValueSelection"}, "1", one},
+      {"clsErrorMessageNova", {"ParameterName", "AllowedCharacters"}, 1, "1"},
+      {"clsErrorMessageNova", {"AreaNo"}, 1, one},
+      {"clsErrorMessageNova", {"DefaultVal", "SIARangeMin", "SIARangeMax", "DesiredVal", "AllowedString"}, 1, 1},
+      {"clsListItem", {"Hidden", "Color"}, "maybe", Value(), failures::TypeMismatch},
+      {"clsErrorMessageNova", {"AreaNo"}, 40000, Value(), failures::Overflow},
+      {"clsListItems", {"Count", "Item"}, 1, Value(), failures::InvalidCall},
+      {"clsZoneFunctionsWillow", {"ZoneNum"}, 1, Value(), failures::InvalidCall}};
+  for (const auto& [name, properties, given, held, failure] : cases) {
+    for (const auto* property : properties) {
+      const auto object = Make(name);
+      EXPECT_EQ(FailureOf([&, &value = given] { object->Set(property, value); }), failure) << name << '.' << property;
+      if (failure != 0) continue;
+      EXPECT_EQ(object->Get(property), held) << name << '.' << property;
+    }
+  }
+}
+
+TEST_F(LateBinding, ListsAreWorkedByName) {
+  for (const std::string name : {"clsListItems", "clsRanges"}) {
+    const auto list = Make(name);
+    const bool choices = name == "clsListItems";
+    const auto added = Call(*list, "add", {"a", 1, 2});
+    EXPECT_EQ(In(added).Get(choices ? "Item" : "Min"), choices ? Value("1") : Value(1));
+    EXPECT_EQ(In(added).Get(choices ? "Value" : "Max"), Value(2));
+    Call(*list, "Add", {"b"});
+    EXPECT_EQ(In(Call(*list, "Item", {2})).Get(choices ? "Value" : "Max"), choices ? Value() : Value(std::int16_t{0}));
+    EXPECT_EQ(list->Get("Count"), Value(2));
+    EXPECT_EQ(Call(*list, "Item", {"A"}), added);
+    EXPECT_EQ(Call(*list, "Item", {3}), Value(ObjectPtr()));
+    EXPECT_EQ(Call(*list, "NewEnum"), Value(Array({added, Call(*list, "Item", {"b"})}, 1)));
+
+    const auto form = Call(*list, "Serialize");
+    for (const auto* filled : {"Copy", "DeSerialize"}) {
+      const auto other = Make(name);
+      EXPECT_EQ(Call(*other, filled, {*filled == 'C' ? Value(list) : form}), Value());
+      EXPECT_EQ(Call(*other, "Serialize"), form) << filled;
+    }
+    EXPECT_EQ(Call(*list, "Remove", {"a"}), Value());
+    EXPECT_EQ(list->Get("Count"), Value(1));
+
+    const auto element = Make(choices ? "clsListItem" : "clsRange");
+    EXPECT_EQ(Call(*element, "DeSerialize", {Call(In(added), "Serialize")}), Value(0));
+    EXPECT_EQ(element->Get("Key"), Value(""));
+    if (choices) {
+      EXPECT_EQ(Call(*element, "Copy", {added}), Value());
+      EXPECT_EQ(Call(*element, "Copy", {"no object"}), Value());
+      EXPECT_EQ(Call(*element, "Serialize"), Call(In(added), "Serialize"));
+      EXPECT_EQ(FailureOf([&] { Call(*list, "Add", {"B"}); }), failures::KeyExists);
+    } else {
+      EXPECT_EQ(Call(*list, "Add", {"B"}), Value(ObjectPtr()));
+    }
+    EXPECT_EQ(FailureOf([&] { Call(*list, "Add"); }), failures::InvalidCall);
+    EXPECT_EQ(FailureOf([&] { Call(*list, "Item", {1, 2}); }), failures::InvalidCall);
+    EXPECT_EQ(FailureOf([&] { Call(*list, "Clear"); }), failures::InvalidCall);
+    EXPECT_EQ(FailureOf([&] { Call(*list, "Copy", {1}); }), failures::ObjectRequired);
+    EXPECT_EQ(FailureOf([&] { Call(*list, "Copy", {added}); }), failures::TypeMismatch);
+    EXPECT_EQ(DllCanUnloadNow(), 1);
+  }
+  std::vector<Value> review{Array(), Array(), std::make_shared<SecurityLevels>(), 49, false};
+  EXPECT_EQ(Make("clsErrorMessageNova")->Invoke("Display", review), Value(0));
+}
+
 TEST_F(FrameTest, PublicClassesAreFoundByNameAndCreatedOnceRegistered) {
   EXPECT_NE(FindPublicClass("clsZoneFunctionsBirch"), nullptr);
   EXPECT_EQ(FindPublicClass("OrlinCustomDialogs.clsZoneFunctionsBirch"), FindPublicClass("clsZoneFunctionsBirch"));

@@ -175,7 +175,13 @@ TEST(ReplaceVariable, ReplacesEveryMarkerAndNothingElse) {
                                                                      {"%zone% 100%", "5", "%zone% 100%"},
                                                                      {"", "5", ""},
                                                                      {"%%ZONE%%", "5", "%5%"},
-                                                                     {"%ZO%ZONE%NE%", "", ""}};
+                                                                     {"%ZO%ZONE%NE%", "", ""},
+                                                                     {"%ZONE%, %ZONE%", "%ZONE%", "%ZONE%, %ZONE%"},
+                                                                     {"%%ZONE%ZONE%", "x%ZONE%", "%x%ZONE%ZONE%"},
+                                                                     {"%%ZONE%", "ZONE%%ZONE", "%ZONE%%ZONE"},
+                                                                     {"%ZO%ZONE%", "NE%ZO%NE", "NE%ZO%NEZO%NE"},
+                                                                     {"%%ZONE%", "ZONE%x%", "ZONE%x%x%"},
+                                                                     {"%ZONE%NE%", "%x%ZO", "%x%x%ZO"}};
   for (const auto& [text, value, result] : cases) EXPECT_EQ(ReplaceVariable(text, "ZONE", value), result) << text;
 }
 
@@ -305,6 +311,21 @@ TEST_F(ServicesTest, LifeDecidesWhoMakesAndReleasesTheServices) {
       EXPECT_EQ(Services().WarningLevel, 3);
     }
   }
+}
+
+TEST_F(ServicesTest, APlatformThatIsInstalledDuringACallServesTheNextOne) {
+  struct Plain {
+    Dialog Form{"frmTest", "", {.InitialisesServices = true}};
+  };
+  const auto show = [](Plain& dialog) {
+    dialog.Form.ShowModal();
+    EXPECT_EQ(GetLocalText(101), "text 101");
+    return 0;
+  };
+  Host->Operate = [](shown::Dialog&) { UsePlatform({}); };
+  EXPECT_EQ(CallDialog<Plain>(show), 0);
+  EXPECT_EQ(Services().FaultObject, nullptr);
+  EXPECT_EQ(CallDialog<Plain>(show), failures::NoObject);
 }
 
 }  // namespace

@@ -109,9 +109,12 @@ TEST_F(PanelNotes, DateAndTimeGoInFrontOfTheNote) {
 }
 
 TEST_F(PanelNotes, OtherKindsAreReadAndNeverWritten) {
-  Store("kept");
   const Words other{"PanelGUID=P1", "NoteHeader=Service", "NoteTypeID=2"};
   EXPECT_EQ(Open(kOk, {"IsInMemory=true", "Content=new"}, other).Argument("FirstLine"), "new");
+  EXPECT_EQ(Open(kOk, {"IsInMemory=true"}).Result, 0) << "nor an empty text";
+  EXPECT_TRUE(std::filesystem::is_empty(Drives.Path()));
+  Store("kept");
+  EXPECT_EQ(Open(kOk, {"IsInMemory=true", "Content=new"}, other).Argument("Content"), "new");
   EXPECT_EQ(Stored(other), "");
   EXPECT_EQ(Stored(), "kept");
 }
@@ -140,7 +143,7 @@ TEST_F(PanelNotes, AMissingFileIsToldBeforeTheDialogShows) {
   EXPECT_EQ(run.Argument("Content"), "mine");
 }
 
-TEST_F(PanelNotes, AStoreThatFailsAfterOkLeavesTheTextToTheHost) {
+TEST_F(PanelNotes, AStoreThatFailsAfterOkLeavesTheArgumentsAsTheyCame) {
   for (const auto& [dataList, result, additional] :
        {std::tuple{"[PanelNotes]\nDBTYPE=PAPER\n", failures::CannotOpenDatabase, Text(1082, "DB_PATH", "")},
         {"[Panels]\nDBTYPE=ACCESS\n", failures::InvalidCall, std::string()}}) {
@@ -148,7 +151,7 @@ TEST_F(PanelNotes, AStoreThatFailsAfterOkLeavesTheTextToTheHost) {
     const auto run = Open("caret txtPanelNotes 3 0\ntype txtPanelNotes \"x\"\nanswer 1\nclick cmdOK",
                           {"IsInMemory=true", "Content=old"});
     EXPECT_EQ(run.Result, result) << dataList;
-    EXPECT_EQ(run.Argument("Content"), "oldx");
+    EXPECT_EQ(run.Argument("Content"), "old");
     EXPECT_EQ(run.Argument("FirstLine"), Value());
     EXPECT_EQ(run.Fields("fault", "additional"), (std::vector<Json>{additional, Failure(result).Description()}));
   }

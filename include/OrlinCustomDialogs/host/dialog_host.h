@@ -46,6 +46,9 @@ struct SizeInTwips {
 ///
 /// Calls arrive on one thread, and `ShowMessage` and `Beep` arrive also while no dialog is shown.
 /// What a host throws, other than a `Failure`, passes through the library and ends the call.
+///
+/// A host may call a public class in the middle of `ShowModal` or `ShowMessage`, by a timer of its own for example; the
+/// dialog of that call then arrives in a `ShowModal` within the first. Neither call knows of the other.
 class DialogHost {
  public:
   DialogHost() = default;

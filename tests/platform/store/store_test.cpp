@@ -125,7 +125,11 @@ std::shared_ptr<Connection> ConnectByOdbc(const DataListEntry& entry, const std:
 
 const Kind kKinds[] = {
     {"Sqlite", [](const auto&) { return BuiltInDataList()[0]; },
-     [](const auto&, const auto& file) { return OpenSqlite(file, {.MakesMissingFile = true}); }},
+     [](const auto&, const auto& file) {
+       auto connection = OpenSqlite(file, {.MakesMissingFile = true});
+       connection->Make();
+       return connection;
+     }},
     {"PostgresByOdbc", [](const auto&) { return DataListEntry{"PanelNotes", "ODBC", "", "", "", Server().Connect()}; },
      ConnectByOdbc},
     {"SqliteByOdbc",
@@ -150,8 +154,14 @@ class Store : public ::testing::TestWithParam<Kind> {
     std::filesystem::create_directories(File().parent_path());
     return GetParam().Connect(Places.Entries->front(), File());
   }
-  [[nodiscard]] Value Count() const {
-    return Direct()->FirstRow("SELECT count(*) AS n FROM \"PanelNotes\"", {})->at(0).second;
+  [[nodiscard]] Value Count(const std::string& condition = "1 = 1") const {
+    return Direct()->FirstRow("SELECT count(*) AS n FROM \"PanelNotes\" WHERE " + condition, {})->at(0).second;
+  }
+  /// Rows of the same key.
+  void Insert(const std::vector<std::string>& memos) const {
+    for (const auto& memo : memos) {
+      Direct()->Execute("INSERT INTO \"PanelNotes\" VALUES ('P1', 'Service', 3, " + memo + ")", {});
+    }
   }
 
   const TemporaryFolder Drives;
@@ -205,6 +215,36 @@ TEST_P(Store, TheLastValueOfAFieldCounts) {
   }
   EXPECT_EQ(One.Field("NOTETYPEID").Value(), std::int32_t{3});
   EXPECT_THROW(One.Field("Notes"), Failure);
+}
+
+TEST_P(Store, TheCurrentRowAloneIsChangedOrDeleted) {
+  Insert({"'same'", "'same'", "'other'", "NULL"});
+  EXPECT_EQ(One.Save({}, "new"), 0);
+  EXPECT_EQ(Count("\"Memo\" = 'new'"), 1);
+  for (int rows = 4; rows > 0; --rows) {
+    EXPECT_EQ(Count(), rows);
+    EXPECT_EQ(One.Delete({}), 0);
+  }
+}
+
+TEST_P(Store, RowsThatTheirColumnsAloneTellApartAreChangedUnlessTheyAreAlike) {
+  const bool onServer = GetParam().Name == "PostgresByOdbc";
+  const auto direct = Direct();
+  direct->Execute(R"(ALTER TABLE "PanelNotes" RENAME TO "Rows")", {});
+  direct->Execute(onServer ? R"(CREATE VIEW "PanelNotes" AS SELECT * FROM "Rows")"
+                           : R"(CREATE TABLE "PanelNotes" ("PanelGUID" TEXT, "NoteHeader" TEXT, "NoteTypeID" INTEGER,
+                                "Memo" TEXT PRIMARY KEY) WITHOUT ROWID)",
+                  {});
+  Insert({"'a'", "'b'"});
+  EXPECT_EQ(One.Save({}, "new"), 0);
+  EXPECT_EQ(Count("\"Memo\" = 'new'"), 1);
+  EXPECT_EQ(Count(), 2);
+  if (!onServer) return;
+  direct->Execute("UPDATE \"PanelNotes\" SET \"Memo\" = 'alike'", {});
+  EXPECT_EQ(One.Delete({}), failures::DatabaseCallFailed);
+  One.Close();
+  EXPECT_EQ(Count(), 2);
+  direct->Execute("DROP TABLE \"Rows\" CASCADE", {});
 }
 
 TEST_P(Store, ALockThatStandsIsToldAfterTheTimeOut) {
@@ -281,8 +321,16 @@ TEST_F(SqliteFile, IsMadeForItsOwnerOnlyAndOnlyWhereAsked) {
   DataList list(Places);
   DatabasePtr db;
   EXPECT_EQ(list.DOPEN("PanelNotes", 0, db), failures::CannotOpenDatabase);
-  EXPECT_FALSE(std::filesystem::exists(Drives().Path() / "c"));
-  EXPECT_EQ(Program(Places).Save({}, "a"), 0);
+  Program first(Places);
+  Program second(Places);
+  for (auto* program : {&first, &second}) {
+    ASSERT_EQ(program->Open({}, DListComponent::Writing), 0);
+    EXPECT_EQ(program->Begin({}, "a"), 0);
+  }
+  EXPECT_FALSE(std::filesystem::exists(Drives().Path() / "c")) << "nothing is stored yet";
+  EXPECT_EQ(first.Update(), 0);
+  EXPECT_EQ(second.Update(), 0) << "finds the row of the other";
+  EXPECT_EQ(OpenSqlite(File, {})->FirstRow("SELECT count(*) FROM PanelNotes", {})->at(0).second, 1);
   using std::filesystem::perms;
   EXPECT_EQ(std::filesystem::status(File).permissions(), perms::owner_read | perms::owner_write);
   EXPECT_EQ(std::filesystem::status(File.parent_path()).permissions(), perms::owner_all);
@@ -395,7 +443,7 @@ TEST_F(NotesOnAServer, AFailureTellsNothingOfThePassword) {
   }
 }
 
-TEST_F(NotesOnAServer, AServerThatGoesAwayLeavesTheTextToTheHost) {
+TEST_F(NotesOnAServer, AServerThatGoesAwayIsAFailure) {
   Program program({DataListEntries{{"PanelNotes", "ODBC", "", "", "", Server().Connect()}}, {}}, 1);
   ASSERT_EQ(program.Open({}, DListComponent::Writing), 0);
   ASSERT_EQ(program.Begin({}, "new"), 0);
