@@ -88,7 +88,7 @@ class NestedCalls : public ::testing::Test {
     other.Now = "2026-01-01 00:00:00";
     const auto call = [&](std::size_t parameter) {
       const auto before = out.str();
-      EXPECT_NE(Call(*Panel.Parameters()[parameter].Class, Panel.ArgumentsOf(parameter)).Result, std::nullopt);
+      EXPECT_NE(Call(*Panel.Parameters()[parameter].Class, Panel.ValuesOf(parameter)).Result, std::nullopt);
       EXPECT_NE(out.str(), before) << "it showed nothing";
       out.str(before);
       out.seekp(0, std::ios::end);
@@ -105,7 +105,7 @@ class NestedCalls : public ::testing::Test {
       };
     }
     const InstalledPlatform installed(StandardPlatform(options));
-    const auto outcome = Call(*Panel.Parameters()[outer].Class, Panel.ArgumentsOf(outer));
+    const auto outcome = Call(*Panel.Parameters()[outer].Class, Panel.ValuesOf(outer));
     std::vector<Trace::Argument> arguments;
     for (const auto& argument : outcome.Arguments) arguments.push_back({"", argument});
     trace.Returned(outcome.Result.value_or(-outcome.Raised), arguments);

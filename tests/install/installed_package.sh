@@ -37,9 +37,9 @@ nm -DC --defined-only "$library" | cut -d' ' -f2- | grep -v __odr_asan |
   sed -E 's/ (vtable for|typeinfo for|(non-)?virtual thunk to) / /' >"$work/symbols"
 grep '^[TDBR]' "$work/symbols" | grep -vE '^. (orlin::|Dll(GetClassObject|CanUnloadNow|(Unr|R)egisterServer)$)' &&
   fail "The library exports these symbols from outside its namespace."
-grep -E '^. orlin::(Dialog|AnyControl)\b' "$work/symbols" && fail "The library exports these private classes."
+grep -E '^. orlin::(AnyControl|Control|Dialog|RowList|TextField)\b' "$work/symbols" && fail "The library exports these private classes."
 names=$(sed -nE 's/^. orlin::(shown::)?(\w+).*/\2/p' "$work/symbols" | sort -u)
 (($(wc -w <<<"$names") > 50)) || fail "The library does not export its classes."
 for name in $names; do
-  grep -qE "(class|struct) $name\b|\b$name\(" "$headers"/*.h || fail "The library exports $name, which no header declares."
+  grep -qE "(class|struct) $name\b|\b$name\(" "$headers"/{,host/}*.h || fail "The library exports $name, which no header declares."
 done
