@@ -7,6 +7,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include "OrlinCustomDialogs/version.h"
+
 #include "app/command_options.h"
 #include "app/language.h"
 #include "app/suggestion.h"
@@ -44,7 +46,7 @@ class CommandLine {
  public:
   CommandLine() {
     app_.require_subcommand(0, 1);
-    app_.set_version_flag("--version", "orlin-host " ORLIN_VERSION, "Print the version and exit");
+    app_.set_version_flag("--version", "orlin-host " + std::string(LibraryVersion()), "Print the version and exit");
     const auto formatter = std::make_shared<HelpFormatter>();
     for (auto* command : app_.get_subcommands(nullptr)) command->group("Commands");
     for (auto* any : {&app_, &list_, &describe_, &edit_, &account_, &encrypt_}) {

@@ -1,6 +1,7 @@
 #include "app/list.h"
 
 #include <algorithm>
+#include <functional>
 #include <iomanip>
 #include <string_view>
 
@@ -43,18 +44,17 @@ void PrintLine(const PublicClass& publicClass, int width, std::ostream& out) {
   out << '\n';
 }
 
-template <class Of>
-int LongestName(const std::vector<Of>& all, const std::string& (*name)(const Of&)) {
+template <class Of, class Name>
+int LongestName(const std::vector<Of>& all, Name Of::*name) {
   std::size_t longest = 0;
-  for (const auto& one : all) longest = std::max(longest, name(one).size());
+  for (const auto& one : all) longest = std::max(longest, std::invoke(name, one).size());
   return static_cast<int>(longest);
 }
 
 void PrintWhole(const PublicClass& publicClass, std::ostream& out) {
   out << publicClass.Name() << '\n';
   const auto& parameters = publicClass.Parameters();
-  const int width = LongestName<Parameter>(
-      parameters, [](const auto& parameter) -> auto& { return parameter.Name; });
+  const int width = LongestName(parameters, &Parameter::Name);
   for (const auto& parameter : parameters) {
     const bool rights = parameter.Name == kSecurityLevels;
     out << "  " << std::left << std::setw(width) << parameter.Name << "  " << std::setw(7)
@@ -71,8 +71,7 @@ int List(const ListOptions& options, std::ostream& out) {
     options.Json ? PrintJson(publicClass, out) : PrintWhole(publicClass, out);
     return status::Done;
   }
-  const int width = LongestName<PublicClass>(
-      PublicClasses(), [](const auto& publicClass) -> auto& { return publicClass.Name(); });
+  const int width = LongestName(PublicClasses(), &PublicClass::Name);
   for (const auto& publicClass : PublicClasses()) {
     options.Json ? PrintJson(publicClass, out) : PrintLine(publicClass, width, out);
   }

@@ -2,8 +2,10 @@
 
 run_packages=(g++ cmake ninja-build pkg-config libcli11-dev nlohmann-json3-dev libsqlite3-dev unixodbc-dev)
 window_packages=(qt6-base-dev)
-test_packages=("${run_packages[@]}" "${window_packages[@]}" libgtest-dev libbenchmark-dev
-  postgresql odbc-postgresql libsqliteodbc xvfb xdotool)
+test_packages=("${run_packages[@]}" "${window_packages[@]}" libgtest-dev postgresql odbc-postgresql libsqliteodbc
+  xvfb xdotool)
+# For ./test --all.
+guard_packages=(libbenchmark-dev clang clang-tidy clang-format g++-mingw-w64-x86-64-posix)
 
 say() { printf '%s\n' "$*" >&2; }
 

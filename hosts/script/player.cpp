@@ -30,6 +30,9 @@ template <class... Functions>
 struct Cases : Functions... {
   using Functions::operator()...;
 };
+// clang++ 14 deduces none for an aggregate.
+template <class... Functions>
+Cases(Functions...) -> Cases<Functions...>;
 
 const actions::Answer* AsAnswer(const Action& action) { return std::get_if<actions::Answer>(&action.Do); }
 

@@ -1,10 +1,13 @@
 #include "frame/modGeneral.h"
 
+#include <string>
+
+#include "OrlinCustomDialogs/version.h"
+
 #include "frame/conversions.h"
 #include "frame/modRegistry.h"
 #include "frame/modStoreObj.h"
 #include "frame/services.h"
-#include "frame/version.h"
 
 namespace orlin {
 namespace {
@@ -93,7 +96,7 @@ std::int32_t InitApplicationVariables() {
 
     services.FaultObject = Create<FaultObjectComponent>("FaultObject.clsFaultObject");
     services.FaultObject->SetAppName(std::string(kAppName));
-    services.FaultObject->SetAppVersion(LibraryVersion());
+    services.FaultObject->SetAppVersion(std::string(LibraryVersion()));
     services.FaultObject->SetWarningLevel(services.WarningLevel);
     services.FaultObject->SetAppErrorFile(std::string(kAppName) + ".err");
 

@@ -25,7 +25,7 @@ TEST(SecurityLevelsArgument, HasToBeACollection) {
                                          {ObjectPtr(), failures::NoObject},
                                          {std::make_shared<Object>(), failures::TypeMismatch}};
   for (const auto& [value, failure] : cases)
-    EXPECT_EQ(FailureOf([&] { static_cast<void>(AsSecurityLevels(value)); }), failure);
+    EXPECT_EQ(FailureOf([&level = value] { static_cast<void>(AsSecurityLevels(level)); }), failure);
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <map>
 #include <tuple>
 
+#include "OrlinCustomDialogs/version.h"
+
 #include "frame/dialog.h"
 #include "frame/display_protocol.h"
 #include "frame/modGeneral.h"
@@ -35,7 +37,7 @@ struct Recorder {
 struct RecordingFaultObject : FaultObjectComponent, Recorder {
   using Recorder::Recorder;
   void SetAppName(const std::string& name) override { Note("AppName " + name); }
-  void SetAppVersion(const std::string&) override { Note("AppVersion"); }
+  void SetAppVersion(const std::string& version) override { Note("AppVersion " + version); }
   void SetWarningLevel(std::int16_t level) override { Note("WarningLevel ", level); }
   void SetAppErrorFile(const std::string& file) override { Note("AppErrorFile " + file); }
   void Add(const FaultRecord& fault) override {
@@ -198,9 +200,10 @@ TEST_F(ServicesTest, SettingsAreStringsUpToTheirFirstZero) {
 
 TEST_F(ServicesTest, InitialisationAsksTheComponentsInOrder) {
   EXPECT_EQ(InitApplicationVariables(), 0);
-  EXPECT_EQ(Calls, (Log{"AppName Tolmar", "AppVersion", "WarningLevel 3", "AppErrorFile Tolmar.err",
-                        "NetWorkDListPath ", "LocalDListPath C:\\local", "TimeOut 6", "MaxTimeOut 30", "BackupMode 0",
-                        "UserID OrlinCustomDialogs", "Workstation <>", "WarningLevel 3", "Password of 14"}));
+  EXPECT_EQ(Calls, (Log{"AppName Tolmar", "AppVersion " + std::string(LibraryVersion()), "WarningLevel 3",
+                        "AppErrorFile Tolmar.err", "NetWorkDListPath ", "LocalDListPath C:\\local", "TimeOut 6",
+                        "MaxTimeOut 30", "BackupMode 0", "UserID OrlinCustomDialogs", "Workstation <>",
+                        "WarningLevel 3", "Password of 14"}));
   const auto first = Services().Store;
   EXPECT_EQ(InitStoreObj(), 0);
   EXPECT_NE(Services().Store, first);

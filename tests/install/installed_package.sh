@@ -24,9 +24,11 @@ library=$(find "$work/installed" -name libOrlinCustomDialogs.so)
 (cd "$work" && example/embed) | diff "$here/expected.txt" - || fail "The example said something else."
 
 # A program, with pkg-config.
-read -ra flags <<<"$CXXFLAGS $(PKG_CONFIG_PATH=${library%/*}/pkgconfig pkg-config --cflags --libs OrlinCustomDialogs)"
+export PKG_CONFIG_PATH=${library%/*}/pkgconfig
+read -ra flags <<<"$CXXFLAGS $(pkg-config --cflags --libs OrlinCustomDialogs)"
 "$CXX" "$here/plain_program.cpp" -o "$work/plain_program" "${flags[@]}"
-LD_LIBRARY_PATH=${library%/*} "$work/plain_program" || fail "The program that pkg-config helped to build failed."
+LD_LIBRARY_PATH=${library%/*} "$work/plain_program" "$(pkg-config --modversion OrlinCustomDialogs)" ||
+  fail "The program that pkg-config helped to build failed."
 
 # The command.
 [[ $("$work/installed/bin/orlin-host" list) == *clsZoneFunctionsWillow* ]] || fail "orlin-host does not run."

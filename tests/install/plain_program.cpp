@@ -1,9 +1,16 @@
 #include <OrlinCustomDialogs/components.h>
 #include <OrlinCustomDialogs/exports.h>
 #include <OrlinCustomDialogs/failure.h>
+#include <OrlinCustomDialogs/version.h>
 
-// The entry points hand out the classes, and a failure that the library throws is caught by its type.
-int main() {
+#if ORLIN_VERSION < 10000
+#error "The headers have no version."
+#endif
+
+// The entry points hand out the classes, and a failure that the library throws is caught by its type. The argument is
+// the version that the package states.
+int main(int, char** arguments) {
+  if (orlin::LibraryVersion() != arguments[1]) return 6;
   constexpr auto noSuchClass = orlin::failures::CannotCreateObject;
   const orlin::PublicClass* found = nullptr;
   if (DllGetClassObject("OrlinCustomDialogs.clsPanelGMT", &found) != 0 || found->Name() != "clsPanelGMT") return 1;

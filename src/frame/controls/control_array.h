@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <concepts>
 #include <cstddef>
 #include <string_view>
 #include <type_traits>
@@ -25,8 +26,8 @@ class ControlArray {
       : ControlArray(in, name, captions, std::make_index_sequence<Size>()) {}
 
   /// `Failure` 9 outside the array.
-  [[nodiscard]] Kind& operator[](std::size_t index) { return members_[Checked(index)]; }
-  [[nodiscard]] const Kind& operator[](std::size_t index) const { return members_[Checked(index)]; }
+  [[nodiscard]] Kind& operator[](std::integral auto index) { return members_[Checked(index)]; }
+  [[nodiscard]] const Kind& operator[](std::integral auto index) const { return members_[Checked(index)]; }
   [[nodiscard]] static constexpr std::size_t size() noexcept { return Size; }
   [[nodiscard]] auto begin() noexcept { return members_.begin(); }
   [[nodiscard]] auto end() noexcept { return members_.end(); }
@@ -45,9 +46,11 @@ class ControlArray {
                std::index_sequence<Indexes...>)
       : members_{Make(in, name, captions[Indexes], static_cast<int>(First + Indexes))...} {}
 
-  static std::size_t Checked(std::size_t index) {
-    if (index < First || index - First >= Size) throw Failure(failures::SubscriptOutOfRange);
-    return index - First;
+  static std::size_t Checked(std::integral auto index) {
+    if (std::cmp_less(index, First) || std::cmp_greater_equal(index, First + Size)) {
+      throw Failure(failures::SubscriptOutOfRange);
+    }
+    return static_cast<std::size_t>(index) - First;
   }
 
   static Kind Make(const Container& in, std::string_view name, const CaptionSource& caption, int index) {

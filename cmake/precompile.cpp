@@ -1,0 +1,1 @@
+// The compiler wants a source to compile headers with.
