@@ -10,13 +10,7 @@
 
 #include "frame/live_objects.h"
 #include "frame/services.h"
-#include "notes/register.h"
-#include "options/register.h"
-#include "outputs/register.h"
-#include "schedules/register.h"
-#include "verification/register.h"
-#include "wireless/register.h"
-#include "zones/register.h"
+#include "registers.h"
 
 // The component as a whole: the public classes of all subsystems in one register, and the entry points on it.
 

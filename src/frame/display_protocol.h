@@ -36,11 +36,12 @@ struct DisplaySteps {
 /// clean-up does.
 [[nodiscard]] std::int32_t RunDisplay(Dialog& form, const DisplaySteps& steps);
 
-/// One call of a public class: creates the dialog, runs its `Display` and drops it. A failure becomes the result.
+/// One call of a public class: makes the dialog, runs its `Display` and drops it. A failure becomes the result. For the
+/// classes that convert arguments once the dialog is there: `call` gets it.
 template <class Form, class Call>
-[[nodiscard]] std::int32_t CallDialog(Call call) {
-  const RunningCall running;
+[[nodiscard]] std::int32_t CallDialogWith(Call call) {
   try {
+    const RunningCall running;
     Form dialog;
     return call(dialog);
   } catch (const Failure& failure) {
@@ -48,12 +49,18 @@ template <class Form, class Call>
   }
 }
 
+/// The same for all other classes: the arguments go through as they are.
+template <class Form, class... Arguments>
+[[nodiscard]] std::int32_t CallDialog(Arguments&&... arguments) {
+  return CallDialogWith<Form>([&](Form& dialog) { return dialog.Display(arguments...); });
+}
+
 /// The same in the public classes that have no failure handler: a failure reaches the host.
-template <class Form, class Call>
-[[nodiscard]] std::int32_t CallDialogUnguarded(Call call) {
+template <class Form, class... Arguments>
+[[nodiscard]] std::int32_t CallDialogUnguarded(Arguments&&... arguments) {
   const RunningCall running;
   Form dialog;
-  return call(dialog);
+  return dialog.Display(arguments...);
 }
 
 }  // namespace orlin

@@ -4,13 +4,13 @@
 #include "frame/display_protocol.h"
 #include "frame/public_class_of.h"
 #include "notes/frmPanelNotes.h"
-#include "notes/register.h"
+#include "registers.h"
 
 namespace orlin {
 
 std::int32_t clsPanelNotes::Display(const Value& PanelGUID, const Value& NoteHeader, const Value& NoteTypeID,
                                     std::string& Content, Value& FirstLine, const Value& IsInMemory) {
-  return CallDialog<frmPanelNotes>([&](auto& dialog) {
+  return CallDialogWith<frmPanelNotes>([&](auto& dialog) {
     return dialog.Display(ToText(PanelGUID), ToText(NoteHeader), ToLong(NoteTypeID), Content, FirstLine,
                           ToBoolean(IsInMemory));
   });

@@ -9,51 +9,46 @@
 #include "outputs/frmOutputFuncsPine.h"
 #include "outputs/frmPulseCountPine.h"
 #include "outputs/frmRelayParamsOak.h"
-#include "outputs/register.h"
+#include "registers.h"
 
 namespace orlin {
 
 std::int32_t clsOctalRelaysBirch::Display(const Value& vName, Value& vType, Value& vOption, Value& vData,
                                           const Value& SecurityLevels) {
-  return CallDialog<frmOctalRelaysBirch>(
-      [&](auto& dialog) { return dialog.Display(vName, vType, vOption, vData, SecurityLevels); });
+  return CallDialog<frmOctalRelaysBirch>(vName, vType, vOption, vData, SecurityLevels);
 }
 
 std::int32_t clsOutputFunctionsBirch::Display(const Value& vName, Value& vType, Value& vOption, Value& vFirstZone,
                                               Value& vSecondZone, const Value& SecurityLevels) {
-  return CallDialog<frmOutputFuncsBirch>(
-      [&](auto& dialog) { return dialog.Display(vName, vType, vOption, vFirstZone, vSecondZone, SecurityLevels); });
+  return CallDialog<frmOutputFuncsBirch>(vName, vType, vOption, vFirstZone, vSecondZone, SecurityLevels);
 }
 
 std::int32_t clsOnboardOutputsBirch::Display(const Value& vName, Value& vType, Value& vOption,
                                              const Value& SecurityLevels) {
-  return CallDialog<frmOnboardOutputsBirch>(
-      [&](auto& dialog) { return dialog.Display(vName, vType, vOption, SecurityLevels); });
+  return CallDialog<frmOnboardOutputsBirch>(vName, vType, vOption, SecurityLevels);
 }
 
 template <std::int32_t PanelType>
 std::int32_t RelayParamOak<PanelType>::Display(const Value& RelayNo, const Value& FunctionNo, Value& FunctionCode,
                                                Value& ParameterCode, const Value& SecurityLevels) {
-  return CallDialog<frmRelayParamsOak>([&](auto& dialog) {
-    return dialog.Display(RelayNo, FunctionNo, FunctionCode, ParameterCode, SecurityLevels, ePanelType{PanelType});
-  });
+  return CallDialog<frmRelayParamsOak>(RelayNo, FunctionNo, FunctionCode, ParameterCode, SecurityLevels,
+                                       ePanelType{PanelType});
 }
 template class RelayParamOak<21>;
 template class RelayParamOak<22>;
 template class RelayParamOak<23>;
 
 std::int32_t clsOutputFunctions_Pine::Display(const Value& vName, Value& vCode, const Value& vPanelType) {
-  return CallDialog<frmOutputFuncsPine>([&](auto& dialog) { return dialog.Display(vName, vCode, ToLong(vPanelType)); });
+  return CallDialogWith<frmOutputFuncsPine>(
+      [&](auto& dialog) { return dialog.Display(vName, vCode, ToLong(vPanelType)); });
 }
 
 template <std::int32_t PanelType>
 std::int32_t PulseCountPine<PanelType>::Display(const Value& vName, const Value& vInterval1, const Value& vInterval2,
                                                 Value& vPulseCount, Value& vPulseCountTime,
                                                 const Value& SecurityLevels) {
-  return CallDialog<frmPulseCountPine>([&](auto& dialog) {
-    return dialog.Display(vName, vInterval1, vInterval2, vPulseCount, vPulseCountTime, SecurityLevels,
-                          ePanelType{PanelType});
-  });
+  return CallDialog<frmPulseCountPine>(vName, vInterval1, vInterval2, vPulseCount, vPulseCountTime, SecurityLevels,
+                                       ePanelType{PanelType});
 }
 template class PulseCountPine<8>;
 template class PulseCountPine<24>;

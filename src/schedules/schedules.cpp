@@ -6,12 +6,12 @@
 #include "frame/display_protocol.h"
 #include "frame/modPanelTypes.h"
 #include "frame/public_class_of.h"
+#include "registers.h"
 #include "schedules/frmCustDisplayStringList.h"
 #include "schedules/frmSkedFuncsArbor.h"
 #include "schedules/frmSkedFuncsKin.h"
 #include "schedules/frmSkedFuncsWillow.h"
 #include "schedules/frmTime.h"
-#include "schedules/register.h"
 
 namespace orlin {
 
@@ -19,18 +19,15 @@ template <std::int32_t PanelType>
 std::int32_t clsSkedFunc_Willow<PanelType>::Display(const Value& SkedNo, Value& SkedType, Value& SkedTime,
                                                     Value& TimeEdit, Value& SkedData, Value& SkedFunc,
                                                     const Value& SecurityLevels) {
-  return CallDialog<frmSkedFuncsWillow>([&](auto& dialog) {
-    return dialog.Display(SkedNo, SkedType, SkedTime, TimeEdit, SkedData, SkedFunc, SecurityLevels,
-                          ePanelType{PanelType});
-  });
+  return CallDialog<frmSkedFuncsWillow>(SkedNo, SkedType, SkedTime, TimeEdit, SkedData, SkedFunc, SecurityLevels,
+                                        ePanelType{PanelType});
 }
 template class clsSkedFunc_Willow<9>;
 template class clsSkedFunc_Willow<16>;
 
 template <std::int32_t PanelType>
 std::int32_t clsSkedFunc_Arbor<PanelType>::Display(Value& Byte1, Value& Byte2, Value& Byte3) {
-  return CallDialog<frmSkedFuncsArbor>(
-      [&](auto& dialog) { return dialog.Display(Byte1, Byte2, Byte3, ePanelType{PanelType}); });
+  return CallDialog<frmSkedFuncsArbor>(Byte1, Byte2, Byte3, ePanelType{PanelType});
 }
 template class clsSkedFunc_Arbor<1>;
 template class clsSkedFunc_Arbor<2>;
@@ -44,18 +41,15 @@ template class clsSkedFunc_Arbor<51>;
 
 template <std::int32_t PanelType>
 std::int32_t clsSkedFunc_Kin<PanelType>::Display(Value& Byte1, Value& Byte2, Value& Byte3) {
-  return CallDialog<frmSkedFuncsKin>(
-      [&](auto& dialog) { return dialog.Display(Byte1, Byte2, Byte3, ePanelType{PanelType}); });
+  return CallDialog<frmSkedFuncsKin>(Byte1, Byte2, Byte3, ePanelType{PanelType});
 }
 template class clsSkedFunc_Kin<17>;
 template class clsSkedFunc_Kin<18>;
 
-std::int32_t clsTime_FirePanels::Display(std::int16_t Index, Value& res) {
-  return CallDialog<frmTime>([&](auto& dialog) { return dialog.Display(Index, res); });
-}
+std::int32_t clsTime_FirePanels::Display(std::int16_t Index, Value& res) { return CallDialog<frmTime>(Index, res); }
 
 std::int32_t clsLstTime_Rowan::Display(std::int16_t Index, Value& res) {
-  return CallDialog<frmCustDisplayStringList>([&](auto& dialog) { return dialog.Display(Index, res); });
+  return CallDialog<frmCustDisplayStringList>(Index, res);
 }
 
 namespace {

@@ -4,9 +4,9 @@
 #include "frame/display_protocol.h"
 #include "frame/late_members.h"
 #include "frame/public_class_of.h"
+#include "registers.h"
 #include "verification/frmErrorSIA_Nova.h"
 #include "verification/frmVerifyPasscodes.h"
-#include "verification/register.h"
 
 namespace orlin {
 namespace {
@@ -50,14 +50,13 @@ const LateMembers& clsErrorMessageNova::Members() const {
 
 std::int32_t clsErrorMessageNova::Display(const Value& vItemNo, Value& vValue, const Value& SecurityLevels,
                                           std::int16_t PanelType, bool bThroughComm) {
-  return CallDialog<frmErrorSIA_Nova>(
-      [&](auto& dialog) { return dialog.Display(vItemNo, vValue, SecurityLevels, PanelType, bThroughComm); });
+  return CallDialog<frmErrorSIA_Nova>(vItemNo, vValue, SecurityLevels, PanelType, bThroughComm);
 }
 
 std::int32_t clspasscodeLen::Display(Value& vresult, Value& vpresent, std::int16_t& bChangedStatus,
                                      std::int16_t vPasscodeLength, std::int16_t iTotalNoOfUsers,
                                      std::int16_t bThroughSIA, std::int16_t bThroughComm, const Value& SecurityLevels) {
-  return CallDialog<frmVerifyPasscodes>([&](auto& dialog) {
+  return CallDialogWith<frmVerifyPasscodes>([&](auto& dialog) {
     // User 0 and the title row come on top.
     const auto userRows = ToInteger(iTotalNoOfUsers + 2);
     return dialog.Display(vresult, vpresent, bChangedStatus, vPasscodeLength, userRows, bThroughSIA, bThroughComm,

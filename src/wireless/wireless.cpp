@@ -2,34 +2,31 @@
 
 #include "frame/display_protocol.h"
 #include "frame/public_class_of.h"
+#include "registers.h"
 #include "wireless/frmTransceiverConfiguration.h"
 #include "wireless/frmWSNDeviceTypeInput.h"
 #include "wireless/frmWSNDeviceTypeOutput.h"
 #include "wireless/frmWirelessPointID.h"
-#include "wireless/register.h"
 
 namespace orlin {
 
 std::int32_t clsWSNDeviceTypeInput::Display(Value& vDeviceType, Value& vMappedOutput, Value& vOption,
                                             const Value& vfreeOutputs, const Value& SecurityLevels) {
-  return CallDialog<frmWSNDeviceTypeInput>(
-      [&](auto& dialog) { return dialog.Display(vDeviceType, vMappedOutput, vOption, vfreeOutputs, SecurityLevels); });
+  return CallDialog<frmWSNDeviceTypeInput>(vDeviceType, vMappedOutput, vOption, vfreeOutputs, SecurityLevels);
 }
 
 std::int32_t clsWSNDeviceTypeOutput::Display(Value& vDeviceType, Value& vMappedOutput, Value& vOption,
                                              const Value& vFreeInputs, const Value& SecurityLevels) {
-  return CallDialog<frmWSNDeviceTypeOutput>(
-      [&](auto& dialog) { return dialog.Display(vDeviceType, vMappedOutput, vOption, vFreeInputs, SecurityLevels); });
+  return CallDialog<frmWSNDeviceTypeOutput>(vDeviceType, vMappedOutput, vOption, vFreeInputs, SecurityLevels);
 }
 
 std::int32_t clsWSNSensorSensitivity::Display(const std::int16_t& vOption, Value& res) {
-  return CallDialog<frmTransceiverConfiguration>([&](auto& dialog) { return dialog.Display(vOption, res); });
+  return CallDialog<frmTransceiverConfiguration>(vOption, res);
 }
 
 std::int32_t clsWirelessPointID::Display(const std::int16_t& iOption1, const std::int16_t& iOption2, Value& vType,
                                          const Value& SecurityLevels) {
-  return CallDialog<frmWirelessPointID>(
-      [&](auto& dialog) { return dialog.Display(iOption1, iOption2, vType, SecurityLevels); });
+  return CallDialog<frmWirelessPointID>(iOption1, iOption2, vType, SecurityLevels);
 }
 
 std::vector<PublicClass> WirelessClasses() {
