@@ -1,6 +1,5 @@
 #include "app/account_command.h"
 
-#include <cstdlib>
 #include <exception>
 #include <string>
 #include <utility>
@@ -109,12 +108,11 @@ std::string FileNameOf(const std::string& parameter) {
 }
 
 void SavePictures(const Account& account, AccountOptions& options, const WindowOpener& windows) {
-  // Pictures need no display.
-  constexpr int keepWhatIsSet = 0;
-  setenv("QT_QPA_PLATFORM", "offscreen", keepWhatIsSet);
   std::size_t row = 0;
-  options.Platform.Host = windows().Pictures({*options.PictureFolder, options.FontScale, options.Dark},
-                                             [&] { return FileNameOf(account.Parameters().at(row).Name); });
+  options.Platform.Host =
+      windows(Screen::Unseen).Pictures({*options.PictureFolder, options.FontScale, options.Dark}, [&] {
+        return FileNameOf(account.Parameters().at(row).Name);
+      });
   const InstalledPlatform installed(StandardPlatform(options.Platform));
   for (; row < account.Parameters().size(); ++row) {
     const auto& editor = *account.Parameters()[row].Class;
@@ -131,7 +129,7 @@ int ShowAccount(AccountOptions options, const WindowOpener& windows) {
     SavePictures(account, options, windows);
     return status::Done;
   }
-  auto& system = windows();
+  auto& system = windows(Screen::Visible);
   options.Platform.Host = system.Windows();
   AccountTable table(account, std::move(options.Platform));
   system.ShowTable(table);

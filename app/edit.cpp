@@ -101,7 +101,7 @@ int Edit(const EditOptions& options, std::istream& in, std::ostream& out, const 
   const bool inWindows =
       options.Host.value_or(options.Script ? HostKind::Script : HostKind::Windows) == HostKind::Windows;
   if (!inWindows && !options.Script) throw UsageError("--host script wants --script FILE");
-  WindowSystem* const system = inWindows ? &windows() : nullptr;
+  WindowSystem* const system = inWindows ? &windows(Screen::Visible) : nullptr;
   const auto statusOf = [&](const Outcome& outcome) { return options.ExitStatus ? StatusOf(outcome) : status::Done; };
   if (!options.Script) {
     return statusOf(RunInWindows(publicClass, std::move(values), options.Form, options.Platform, *system, out));

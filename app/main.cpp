@@ -10,5 +10,5 @@ int main(int argc, char** argv) {
   // A reader of the output that goes away is no reason to die: what is written then fails.
   std::signal(SIGPIPE, SIG_IGN);
   return orlin::RunCommand(argc, argv, std::cin, std::cout, std::cerr,
-                           [argv]() -> orlin::WindowSystem& { orlin::BecomeProgramWithWindows(argv); });
+                           [argv](orlin::Screen) -> orlin::WindowSystem& { orlin::BecomeProgramWithWindows(argv); });
 }

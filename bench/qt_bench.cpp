@@ -252,8 +252,6 @@ void Measure(const Account& account, const std::string& only) {
 }  // namespace orlin
 
 int main(int argc, char** argv) {
-  constexpr int keepWhatIsSet = 0;
-  setenv("QT_QPA_PLATFORM", "offscreen", keepWhatIsSet);
-  const auto windows = orlin::OpenWindows();
+  const auto windows = orlin::OpenWindows(orlin::Screen::Unseen);
   orlin::Measure(orlin::Account(ORLIN_EXAMPLES "/account.json"), argc > 1 ? argv[1] : "");
 }

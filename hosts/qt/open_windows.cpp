@@ -1,9 +1,10 @@
 #include "qt/open_windows.h"
 
 #include <QApplication>
-#include <cstdio>
+#include <array>
 #include <cstdlib>
 #include <stdexcept>
+#include <string>
 
 #include "qt/pictures.h"
 #include "qt/qt_host.h"
@@ -13,24 +14,34 @@
 namespace orlin {
 namespace {
 
+bool Names(const char* variable) {
+  const char* value = std::getenv(variable);
+  return value != nullptr && *value != '\0';
+}
+
 /// The application of Qt, which wants the words of a command line for as long as it lives.
-class Screen {
+class Application {
  public:
-  Screen() : application_(count_, words_) {
+  explicit Application(Screen screen)
+      : count_(screen == Screen::Unseen && !Names("QT_QPA_PLATFORM") ? 3 : 1), application_(count_, words_.data()) {
     // A display name would stand behind the caption of each dialog, which has little room.
     QCoreApplication::setApplicationName(QStringLiteral("OrlinCustomDialogs"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
   }
 
  private:
-  char name_[11] = "orlin-host";
-  char* words_[2] = {name_, nullptr};
-  int count_ = 1;
+  std::string name_ = "orlin-host";
+  std::string option_ = "-platform";
+  std::string unseen_ = "offscreen";
+  std::array<char*, 4> words_ = {name_.data(), option_.data(), unseen_.data(), nullptr};
+  int count_;
   QApplication application_;
 };
 
 class QtWindowSystem final : public WindowSystem {
  public:
+  explicit QtWindowSystem(Screen screen) : application_(screen) {}
+
   std::shared_ptr<DialogHost> Windows() override { return std::make_shared<QtHost>(); }
   ScriptedHost ScriptedWindows(std::vector<Action> script, Trace& trace, bool strict) override {
     auto host = std::make_shared<orlin::ScriptedWindows>(std::move(script), trace, strict);
@@ -42,35 +53,15 @@ class QtWindowSystem final : public WindowSystem {
   void ShowTable(ParameterTable& table) override { TableWindow(table).Work(); }
 
  private:
-  Screen screen_;
+  Application application_;
 };
-
-bool NamesDisplay(const char* variable) {
-  const char* value = std::getenv(variable);
-  return value != nullptr && *value != '\0';
-}
-
-constexpr const char* kNoDisplay =
-    "there is no display to open a window on: name an operator's script with --script FILE";
-
-// Qt ends the process when a display that is named cannot be reached; that is told in one line as well.
-void TellFatal(QtMsgType type, const QMessageLogContext&, const QString& text) {
-  if (type != QtFatalMsg) {
-    if (type == QtCriticalMsg) std::fprintf(stderr, "orlin-host: %s\n", qPrintable(text));
-    return;
-  }
-  std::fprintf(stderr, "orlin-host: %s\n", kNoDisplay);
-  std::_Exit(2);
-}
 
 }  // namespace
 
-std::unique_ptr<WindowSystem> OpenWindows() {
-  if (!NamesDisplay("QT_QPA_PLATFORM") && !NamesDisplay("DISPLAY") && !NamesDisplay("WAYLAND_DISPLAY")) {
-    throw std::runtime_error(kNoDisplay);
-  }
-  qInstallMessageHandler(TellFatal);
-  return std::make_unique<QtWindowSystem>();
+std::unique_ptr<WindowSystem> OpenWindows(Screen screen) {
+  const bool canBeSeen = Names("QT_QPA_PLATFORM") || Names("DISPLAY") || Names("WAYLAND_DISPLAY");
+  if (screen == Screen::Visible && !canBeSeen) throw std::runtime_error(kNoDisplay);
+  return std::make_unique<QtWindowSystem>(screen);
 }
 
 }  // namespace orlin

@@ -65,8 +65,11 @@ class WindowSystem {
   virtual void ShowTable(ParameterTable& table) = 0;
 };
 
+/// Where windows are: in front of an operator, or on a screen that nobody sees, which needs no display.
+enum class Screen { Visible, Unseen };
+
 /// Opens the screen, when a window is first wanted. Throws a `std::runtime_error` that tells in one line why there is
 /// none.
-using WindowOpener = std::function<WindowSystem&()>;
+using WindowOpener = std::function<WindowSystem&(Screen screen)>;
 
 }  // namespace orlin

@@ -326,9 +326,9 @@ TEST_F(ServicesTest, APlatformThatIsInstalledDuringACallServesTheNextOne) {
     return 0;
   };
   Host->Operate = [](shown::Dialog&) { UsePlatform({}); };
-  EXPECT_EQ(CallDialog<Plain>(show), 0);
+  EXPECT_EQ(CallDialogWith<Plain>(show), 0);
   EXPECT_EQ(Services().FaultObject, nullptr);
-  EXPECT_EQ(CallDialog<Plain>(show), failures::NoObject);
+  EXPECT_EQ(CallDialogWith<Plain>(show), failures::NoObject);
 }
 
 }  // namespace

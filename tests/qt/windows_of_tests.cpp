@@ -1,6 +1,5 @@
 #include "support/windows_of_tests.h"
 
-#include <cstdlib>
 #include <memory>
 
 #include <gtest/gtest.h>
@@ -14,10 +13,8 @@ namespace {
 class ScreenOfTests final : public ::testing::Environment {
  public:
   void SetUp() override {
-    // On a screen of their own, unless somebody wants to look on.
-    constexpr int keepWhatIsSet = 0;
-    setenv("QT_QPA_PLATFORM", "offscreen", keepWhatIsSet);
-    windows_ = OpenWindows();
+    // Somebody who wants to look on names a platform of Qt.
+    windows_ = OpenWindows(Screen::Unseen);
   }
   void TearDown() override { windows_.reset(); }
   [[nodiscard]] WindowSystem* Windows() const { return windows_.get(); }
