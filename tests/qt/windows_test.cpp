@@ -27,6 +27,7 @@
 
 #include "OrlinCustomDialogs/host/form.h"
 #include "OrlinCustomDialogs/platform.h"
+#include "OrlinCustomDialogs/zones.h"
 
 #include "frame/dialog.h"
 #include "qt/colours.h"
@@ -541,6 +542,22 @@ TEST_F(QtHostTest, AnApplicationThatQuitsClosesTheDialog) {
     }
   }
   QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+TEST_F(QtHostTest, ACallWithinACallHasAWindowOfItsOwn) {
+  Sample sample;
+  sample.tmrClock.SetEnabled(false);
+  const auto closeOnTop = [] { QApplication::activeModalWidget()->close(); };
+  std::int32_t inner = -1;
+  QTimer::singleShot(0, [&] {
+    QTimer::singleShot(0, closeOnTop);
+    Value code{"4000"};
+    inner = clsZoneFunctionsWillow().Display(std::int16_t{5}, code);
+    EXPECT_TRUE(sample.Form.IsShown());
+    QTimer::singleShot(0, closeOnTop);
+  });
+  sample.Form.ShowModal();
+  EXPECT_EQ(inner, 1);
 }
 
 }  // namespace
