@@ -12,7 +12,7 @@ struct ListOptions {
   bool Json = false;
 };
 
-/// Prints public classes with their parameters. `UsageError` for a class that there is not.
+/// Prints public classes with their parameters. `UsageError` for the name of no class.
 int List(const ListOptions& options, std::ostream& out);
 
 }  // namespace orlin

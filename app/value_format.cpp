@@ -37,7 +37,7 @@ std::string Quoted(const std::string& text) {
 }
 
 std::string Decimal(double number) {
-  if (!std::isfinite(number)) throw UsageError("a number that is none cannot be kept");
+  if (!std::isfinite(number)) throw UsageError("infinity, or what is not a number, cannot be kept");
   std::array<char, 512> text{};  // the largest number has 309 digits
   const auto written = std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
   std::string decimal(text.data(), written.ptr);

@@ -189,7 +189,7 @@ QSize DialogWindow::Room() const {
 QScrollArea* DialogWindow::Scrolling() const { return qobject_cast<QScrollArea*>(body_); }
 
 void DialogWindow::Fit() {
-  // From the inside out, now instead of by and by.
+  // From the inside out, at once: Qt would do it when the window is next painted.
   const auto inside = findChildren<QWidget*>();
   for (auto widget = inside.rbegin(); widget != inside.rend(); ++widget) {
     if ((*widget)->layout() != nullptr) (*widget)->layout()->activate();

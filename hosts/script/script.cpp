@@ -16,7 +16,7 @@ namespace {
 constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-// A row or column that there is not is a matter between the operator and the control.
+// A row or column that does not exist is a matter between the operator and the control.
 constexpr int kLowest = std::numeric_limits<int>::min();
 constexpr int kHighest = std::numeric_limits<int>::max();
 

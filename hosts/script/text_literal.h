@@ -7,7 +7,7 @@
 
 namespace orlin {
 
-/// A text in double quotes that does not end, or has an escape that there is not.
+/// A text in double quotes that does not end, or has an unknown escape.
 class BadText : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

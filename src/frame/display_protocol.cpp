@@ -5,11 +5,9 @@ namespace {
 
 std::int32_t Outcome(Dialog& form, const DisplaySteps& steps) {
   if (steps.Conclude) return steps.Conclude();
-  if (form.ExitCode() == ExitCode::OK) {
-    steps.Encode();
-    return kConfirmed;
-  }
-  return steps.NotConfirmed ? steps.NotConfirmed() : kNotConfirmed;
+  if (form.ExitCode() != ExitCode::OK) return kNotConfirmed;
+  steps.Encode();
+  return kConfirmed;
 }
 
 /// Ends a failure with its number as the result.
@@ -32,7 +30,7 @@ std::int32_t RunSkipping(Dialog& form, const DisplaySteps& steps) {
   return result;
 }
 
-/// Runs when `Display` ends, however it ends.
+/// Step 11: runs when `Display` ends, however it ends.
 class CleanUp {
  public:
   explicit CleanUp(Dialog& form) : form_(form) {}

@@ -40,12 +40,13 @@ std::int32_t frmCustDisplayStringList::Display(std::int16_t Index, Value& res) {
     txtValue.SetText(List1.List(Index));
     List1.SelectRow(Index);
   };
-  steps.Encode = [&] {
+  steps.Conclude = [&] {
+    if (Form.ExitCode() != ExitCode::OK) {
+      res = std::to_string(Index);
+      return kNotConfirmed;
+    }
     if (!ChosenIndex.IsEmpty()) res = ChosenIndex;
-  };
-  steps.NotConfirmed = [&] {
-    res = std::to_string(Index);
-    return kNotConfirmed;
+    return kConfirmed;
   };
   steps.Report = [](const Failure& failure) { ReportFault(Fault("Display"), failure, ""); };
   return RunDisplay(Form, steps);

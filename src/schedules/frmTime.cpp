@@ -36,8 +36,11 @@ std::int32_t frmTime::Display(std::int16_t Index, Value& res) {
     txtHour.SetText(TwoDigits(Index / kMinutesPerHour));
     txtMinute.SetText(TwoDigits(Index % kMinutesPerHour));
   };
-  steps.Encode = [&] { res = TimeMinutes; };
-  steps.NotConfirmed = [] { return kTimeNotConfirmed; };
+  steps.Conclude = [&] {
+    if (Form.ExitCode() != ExitCode::OK) return kTimeNotConfirmed;
+    res = TimeMinutes;
+    return kConfirmed;
+  };
   steps.Report = [](const Failure& failure) { ReportFault(Fault("Display"), failure, ""); };
   return RunDisplay(Form, steps);
 }
