@@ -207,6 +207,9 @@ void DialogWindow::Fit() {
     delete layout()->replaceWidget(body_, area);
     area->setWidget(body_);
     body_ = area;
+    // What moves into another widget loses the keyboard.
+    keyboard_ = nullptr;
+    PresentFocus();
     layout()->activate();
     // A scroll bar for one direction takes room from the other.
     const int bar = area->verticalScrollBar()->sizeHint().width();
@@ -238,6 +241,11 @@ bool DialogWindow::event(QEvent* event) {
   // Every key is the dialog's own, also those that Qt would take for access keys of its widgets.
   if (event->type() == QEvent::ShortcutOverride) {
     event->accept();
+    return true;
+  }
+  // Where no control has the keyboard: Qt would take Tab for itself.
+  if (event->type() == QEvent::KeyPress) {
+    keyPressEvent(dynamic_cast<QKeyEvent*>(event));
     return true;
   }
   return QDialog::event(event);

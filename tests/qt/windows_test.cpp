@@ -328,6 +328,14 @@ TEST_F(WindowsTest, ADialogLargerThanTheScreenScrollsAndKeepsItsButtons) {
     EXPECT_LE(Window->height(), screen.height());
     EXPECT_TRUE(Window->rect().contains(Of<QWidget>(its.cmdOK).geometry()));
     EXPECT_NE(Window->findChild<QScrollArea*>(), nullptr);
+    EXPECT_EQ(&Window->KeyTarget(), &Of<QWidget>(its.txtName));
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(its.Form.FocusedControl(), &its.cmbPick);
+    // The keyboard is the window's own where no control has it.
+    its.cmbPick.SetEnabled(false);
+    Window->Present();
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(its.Form.FocusedControl(), &its.cmbEdit);
   });
 }
 
