@@ -88,10 +88,11 @@ std::int32_t frmPointCodesOak::Display(const Value& PointNum, Value& PointCode, 
 void frmPointCodesOak::FillDigitLists() {
   const auto lists = ListsOf(PanelType);
   for (std::size_t list = 0; list < lists.size(); ++list) {
-    const auto& [digits, firstText, secondText] = lists[list];
-    for (std::size_t i = 0; i < digits.size(); ++i) {
-      const auto text = i == 0 ? firstText : static_cast<std::int16_t>(secondText + i - 1);
-      SkipFailure([&] { cmbDigit[list + 1].AddItem(std::string(1, digits[i]) + ". " + GetLocalText(text)); });
+    auto text = lists[list].FirstText;
+    for (const char digit : lists[list].Digits) {
+      SkipFailure([&] { cmbDigit[list + 1].AddItem(std::string(1, digit) + ". " + GetLocalText(text)); });
+      // Where the second text begins, the others follow.
+      text = digit == lists[list].Digits.front() ? lists[list].SecondText : static_cast<std::int16_t>(text + 1);
     }
   }
   if (PanelType == ePanelType::OakGrand) return;
