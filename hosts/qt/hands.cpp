@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QStyleOptionComboBox>
 #include <QToolButton>
+#include <algorithm>
 #include <utility>
 
 #include "qt/keys.h"
@@ -108,11 +109,13 @@ Refusal QtHands::Do(shown::Dialog& dialog, const actions::Caret& action) {
   auto* combo = qobject_cast<QComboBox*>(widget);
   auto* field = combo != nullptr ? combo->lineEdit() : qobject_cast<QLineEdit*>(widget);
   if (field == nullptr) return Directly(dialog, action);
-  const auto from = PointAt(*field, UnitsBefore(field->text(), action.Start));
-  const auto to = PointAt(*field, UnitsBefore(field->text(), action.Start + action.Length));
+  const int start = std::min(action.Start, text->TextLength());
+  const int length = std::min(action.Length, text->TextLength() - start);
+  const auto from = PointAt(*field, UnitsBefore(field->text(), start));
+  const auto to = PointAt(*field, UnitsBefore(field->text(), start + length));
   if (!from || !to) return Directly(dialog, action);
   SendMouse(*field, QEvent::MouseButtonPress, *from);
-  if (action.Length > 0) SendMouse(*field, QEvent::MouseMove, *to);
+  if (length > 0) SendMouse(*field, QEvent::MouseMove, *to);
   SendMouse(*field, QEvent::MouseButtonRelease, *to);
   return Done();
 }
