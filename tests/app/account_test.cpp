@@ -199,7 +199,7 @@ TEST_F(AccountTest, FindsItsParameterInWhatTheFileHasBecome) {
 TEST_F(AccountTest, ProcessesTakeTurns) {
   const auto file = Write(kZones);
   std::vector<pid_t> writers;
-  for (const std::size_t zone : {0, 1}) {
+  for (const std::size_t zone : {0U, 1U}) {
     writers.push_back(fork());
     if (writers.back() != 0) continue;
     // A lost value comes to light with the next one: it is not what this writer knows.
@@ -216,7 +216,7 @@ TEST_F(AccountTest, ProcessesTakeTurns) {
     EXPECT_EQ(waitpid(writer, &status, 0), writer);
     EXPECT_EQ(status, 0);
   }
-  for (const std::size_t zone : {0, 1}) EXPECT_EQ(Account(file).ValuesOf(zone).at(1), "1049");
+  for (const std::size_t zone : {0U, 1U}) EXPECT_EQ(Account(file).ValuesOf(zone).at(1), "1049");
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Folder.Path()), {}), 1) << "nothing stands beside it";
 }
 

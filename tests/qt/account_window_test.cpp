@@ -69,7 +69,7 @@ class AccountWindowTest : public ::testing::Test {
     const Operator works(std::move(steps));
     AccountOptions options;
     options.File = File;
-    ShowAccount(std::move(options), []() -> WindowSystem& { return *WindowsOfTests(); });
+    ShowAccount(std::move(options), [](Screen) -> WindowSystem& { return *WindowsOfTests(); });
   }
 
   static std::vector<Operator::Step> Keys(std::initializer_list<int> keys) {

@@ -303,7 +303,7 @@ TEST(WillowSked, WithoutRecordsADateShowsAndDaysDoNot) {
   const auto run = Open({.Type = "1"}, "dump\nclick optDOW\ndump\nclick optDate\ndump");
   const std::pair all{true, true};
   for (const auto* control : {"fraDate", "fraCode"}) {
-    for (const std::size_t dump : {0, 2}) EXPECT_EQ(VisibleAndEnabled(run.Control(control, dump)), all) << control;
+    for (const std::size_t dump : {0U, 2U}) EXPECT_EQ(VisibleAndEnabled(run.Control(control, dump)), all) << control;
   }
   for (const auto* control : {"fraDOW", "chkDOW(0)", "chkDOW(6)"}) {
     EXPECT_EQ(run.Control(control, 1)["visible"], false) << control;

@@ -132,7 +132,7 @@ TEST(Passcodes, CorrectingOneOfTwoInConflictClearsBoth) {
   EXPECT_EQ(lists(2), std::pair(Items(10713), Items(10714)));
   EXPECT_EQ(run.Control("fa", 2).at("colours")[3][1], 0);
   EXPECT_EQ(run.Control("fa", 2).at("bold")[3][1], false);
-  for (const std::size_t dump : {0, 1, 2}) EXPECT_EQ(run.Control("cmdOK", dump).at("enabled"), dump == 2);
+  for (const std::size_t dump : {0U, 1U, 2U}) EXPECT_EQ(run.Control("cmdOK", dump).at("enabled"), dump == 2);
   EXPECT_EQ(run.Argument("vresult"), Users({"5555", "1236", "", "7777"}));
   EXPECT_EQ(run.Argument("vpresent"), Users({}));
 }
@@ -205,7 +205,7 @@ TEST(Passcodes, EveryOutcomeCopiesBack) {
   // Disabling the length needs no correction.
   const auto run = Account{.Codes = {"11"}, .InTrouble = {"11"}, .More = {"bThroughComm=1"}}.Play(
       "answer 1\nclick optPlZeroSsave\ndump\nclick optSave\ndump\nclick optPlZeroSsave\nclick cmdOK");
-  for (const std::size_t dump : {0, 1}) EXPECT_EQ(run.Control("cmdOK", dump).at("enabled"), dump == 0);
+  for (const std::size_t dump : {0U, 1U}) EXPECT_EQ(run.Control("cmdOK", dump).at("enabled"), dump == 0);
   EXPECT_EQ(run.Control("optPlZeroSsave").at("caption"), Text(10731));
   EXPECT_EQ(run.Argument("bChangedStatus"), Integer(2));
 }
