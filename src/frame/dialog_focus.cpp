@@ -33,8 +33,10 @@ void Dialog::Guard(std::string_view owner, std::string_view event, const std::fu
 void Dialog::Activate() {
   if (OnActivate) Guard("Form", "Activate", [this] { OnActivate(); });
   if (!shown_ || focus_ != nullptr) return;
+  // Of a group of options too it is the first one, whichever is on: the group is one stop for Tab alone.
   for (auto* control : controls_) {
-    if (TakesTab(Own(*control))) return MoveFocus(&Own(*control), By::Operator);
+    auto& first = Own(*control);
+    if (first.TakesFocus() && first.tabStop_ && first.WithinReach()) return MoveFocus(&first, By::Operator);
   }
 }
 

@@ -126,6 +126,15 @@ TEST_F(DialogTest, FocusMovesByCodeClickTabAndAccessKey) {
   EXPECT_EQ(PlainCaption(lblTwo.Caption()), "Two & more");
 }
 
+TEST_F(FormTest, ShowFocusesTheFirstOptionWhicheverIsOn) {
+  OptionButton optFirst(Form, "optFirst"), optOn(Form, "optOn", "", {.Value = true});
+  During([&] {
+    EXPECT_TRUE(optFirst.HasFocus());
+    Press(keys::Tab);
+    EXPECT_TRUE(optOn.HasFocus());
+  });
+}
+
 TEST_F(FormTest, LabelNamesTheVisibleControlBehindIt) {
   Label lblTurns(Form, "lblTurns", "&Turns");
   TextBox txtTurn(Form, "txtTurn");
