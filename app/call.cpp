@@ -16,7 +16,7 @@ std::optional<std::int32_t> Outcome::Failure() const {
 Outcome Call(const PublicClass& publicClass, std::vector<Value> values, ValueForm form) {
   const bool stored = form == ValueForm::Stored;
   Outcome outcome;
-  auto arguments = stored ? publicClass.ArgumentsFrom(values) : std::move(values);
+  auto arguments = stored ? publicClass.ArgumentsFrom(values) : values;
   try {
     outcome.Result = publicClass.Display(arguments);
     outcome.Confirmed = publicClass.Confirmed(*outcome.Result, arguments);

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -158,10 +159,21 @@ void DialogWindow::PresentFocus() {
       focused != nullptr && focused->WithinReach() ? ViewOf(*focused).KeyboardWidget() : static_cast<QWidget*>(this);
   if (wanted == keyboard_ && wanted->hasFocus()) return;
   const bool another = std::exchange(keyboard_, wanted) != wanted;
+  if (another) PresentDefault();
   wanted->setFocus(Qt::OtherFocusReason);
   if (auto* area = Scrolling(); area != nullptr && area->isAncestorOf(wanted)) area->ensureWidgetVisible(wanted);
   // A field that is left forgets its mark.
   if (another && focused != nullptr && focused->AsTextField() != nullptr) ViewOf(*focused).Present();
+}
+
+// The button that Enter presses looks so.
+void DialogWindow::PresentDefault() {
+  const auto* focused = dialog_.FocusedControl();
+  const bool isButton = focused != nullptr && focused->Kind() == ControlKind::Button && focused->WithinReach();
+  const auto* pressed = isButton ? focused : dialog_.DefaultButton();
+  for (const auto& view : views_) {
+    if (auto* button = qobject_cast<QPushButton*>(view->Widget())) button->setDefault(&view->Control() == pressed);
+  }
 }
 
 // What a screen reader says for a field.

@@ -66,6 +66,7 @@ class DialogWindow final : public QDialog, public Desk {
   [[nodiscard]] ControlView* WatchedView(const QObject* watched) const;
   void TakeKey(ControlView* view, const QKeyEvent& key);
   void PresentFocus();
+  void PresentDefault();
   void PresentNames();
   void Fit();
   /// The largest that the window may be.

@@ -126,7 +126,6 @@ class ButtonView final : public PressView<QPushButton> {
  public:
   ButtonView(shown::Control& button, Desk& desk, QWidget* parent) : PressView(button, desk, parent) {
     Face().setAutoDefault(false);
-    Face().setDefault(button.Form().DefaultButton() == &button);
   }
 };
 

@@ -29,8 +29,8 @@ void Take(Field& field, const Value& form, std::int32_t index, Convert convert) 
 using Arguments = std::vector<Value>;
 
 /// An argument, or what stands for one that is not given.
-Value Given(const Arguments& arguments, std::size_t place, Value otherwise = {}) {
-  return place < arguments.size() ? arguments[place] : std::move(otherwise);
+Value Given(const Arguments& arguments, std::size_t place, const Value& otherwise = {}) {
+  return place < arguments.size() ? arguments[place] : otherwise;
 }
 
 /// The members of a list, without its own properties and `Add`.

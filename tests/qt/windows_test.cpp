@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
@@ -238,6 +239,8 @@ TEST_F(WindowsTest, KeyboardAloneReachesEverything) {
                                                "lstChecks", "grdTable", "cmdOK"}));
     Press(Qt::Key_Backtab, {}, Qt::ShiftModifier);
     EXPECT_EQ(its.Form.FocusedControl(), &its.cmdOK);
+    Press(Qt::Key_Tab);
+    EXPECT_TRUE(Of<QPushButton>(its.cmdCancel).isDefault()) << "Enter presses it";
     Press(Qt::Key_B, "b", Qt::AltModifier);
     EXPECT_TRUE(Of<QAbstractButton>(its.optB).isChecked());
     Press(Qt::Key_O, "o", Qt::AltModifier);
