@@ -354,7 +354,7 @@ TEST(FormTest, UnitsAndAlternativesStandWithTheirField) {
     ComboBox cmbOther{Form, "cmbOther"};
     Label lblB{Form, "lblB", "List:"};
     TextBox txtB{Form, "txtB", {.Common = {.Visible = false}}};
-    ListBox lstB{Form, "lstB", {.Common = {.Visible = false}}};
+    ListBox lstB{Form, "lstB", {.HasHeading = true, .Common = {.Visible = false}}};
     Button cmdMore{Form, "cmdMore", "More"};
     OKButton cmdOK{Form};
     CancelButton cmdCancel{Form};
@@ -362,7 +362,8 @@ TEST(FormTest, UnitsAndAlternativesStandWithTheirField) {
   Platform platform;
   platform.Host = std::make_shared<QtHost>();
   UsePlatform(std::move(platform));
-  const Parts parts;
+  Parts parts;
+  parts.lstB.AddItem("Heading");
   const auto form = FormOf(parts.Form);
   const auto names = [](const FormLine& line) {
     std::string all;
@@ -377,6 +378,7 @@ TEST(FormTest, UnitsAndAlternativesStandWithTheirField) {
   EXPECT_EQ(form.Body[1].What, FormRow::Kind::Tall);
   EXPECT_EQ(form.Body[1].Label, &parts.lblB) << "also while nothing behind it is visible";
   EXPECT_EQ(form.Labels.at(&parts.lstB), &parts.lblB);
+  EXPECT_EQ(form.NameOf(parts.txtB) + form.NameOf(parts.lstB), "List:Heading") << "as a screen reader says it";
   EXPECT_EQ(names(form.LeftButtons), "cmdMore");
   EXPECT_EQ(names(form.RightButtons), "cmdOK cmdCancel");
   UsePlatform({});
