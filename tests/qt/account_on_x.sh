@@ -22,9 +22,10 @@ for program in Xvfb xdotool; do
   command -v "$program" >"$work/which.log" || fail "There is no $program; ./test installs it."
 done
 
-# The server takes a free number, and tells it when it is ready.
+# The server takes a free number, and tells it when it is ready. It must not begin anew when a first search is gone before
+# the program came.
 mkfifo "$work/number"
-Xvfb -displayfd 3 -nolisten tcp 3>"$work/number" >"$work/server.log" 2>&1 &
+Xvfb -displayfd 3 -noreset -nolisten tcp 3>"$work/number" >"$work/server.log" 2>&1 &
 started+=($!)
 read -r number <"$work/number" || fail "Xvfb does not start."
 export DISPLAY=:$number QT_QPA_PLATFORM=xcb
@@ -36,21 +37,25 @@ cp "$ACCOUNT" "$account"
 host=$!
 started+=("$host")
 
-# Waits for a window and gives it the keyboard, as no window manager is there to do. Where the program ends instead, it
-# has crashed.
+# Tells whether a visible window has the title. The search asks every window of the server, and is cut short where one goes
+# meanwhile: then it has told nothing, and is made anew.
+shows() {
+  kill -0 "$host" || fail "The program ended before \"$1\"."
+  while ! xdotool search --onlyvisible --name "$1" >"$work/found" 2>"$work/search.log"; do
+    [[ -s $work/search.log ]] || return 1
+  done
+}
+# Waits for a window and gives it the keyboard, as no window manager is there to do.
 window_titled() {
-  local ended search
-  timeout 60 xdotool search --sync --onlyvisible --name "$1" windowfocus --sync >"$work/search.log" 2>&1 &
-  search=$!
-  started+=("$search")
-  wait -n -p ended "$search" "$host" && [[ $ended == "$search" ]] || fail "The program did not come to show \"$1\"."
+  local end=$((SECONDS + 60))
+  until shows "$1" && timeout 10 xdotool windowfocus --sync "$(head -1 "$work/found")" 2>"$work/search.log"; do
+    ((SECONDS < end)) || fail "The program did not come to show \"$1\"."
+  done
 }
 press() { xdotool key --delay 1 "$@"; }
 # An editor is closed before its value is stored, and the next one opens after that.
 until_closed() {
-  while xdotool search --onlyvisible --name "$1" >"$work/search.log" 2>&1; do
-    kill -0 "$host" || fail "The program ended."
-  done
+  while shows "$1"; do :; done
 }
 expect() { grep -qF "$1" "$account" || fail "The account holds no $1." "$(head -60 "$account")"; }
 
