@@ -1,8 +1,8 @@
 #include <csignal>
 #include <iostream>
 
-#include "app/command.h"
-#include "app/windows.h"
+#include "app/command_line/command.h"
+#include "app/command_line/windows.h"
 
 // Most runs are scripted, and short: the windows are a program of their own, so that these runs load nothing of them.
 int main(int argc, char** argv) {

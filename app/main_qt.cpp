@@ -5,9 +5,9 @@
 #include <iostream>
 #include <memory>
 
-#include "app/command.h"
-#include "app/status.h"
-#include "qt/open_windows.h"
+#include "app/command_line/command.h"
+#include "app/command_line/status.h"
+#include "window_system/open_windows.h"
 
 namespace {
 

@@ -23,12 +23,12 @@
 #include <string>
 #include <vector>
 
-#include "app/account.h"
-#include "app/installed_platform.h"
+#include "app/account/account.h"
+#include "app/calls/installed_platform.h"
 #include "qt/dialog_window.h"
-#include "qt/open_windows.h"
 #include "qt/texts.h"
 #include "standard_platform.h"
+#include "window_system/open_windows.h"
 
 // From `Display` to the first paint, for every editor of the example account, against a bare dialog of Qt with the same
 // widgets and items. Both in one run, in turns. Prints milliseconds; the ratio is what counts. A part of a parameter's

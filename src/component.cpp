@@ -8,8 +8,8 @@
 #include "OrlinCustomDialogs/lists.h"
 #include "OrlinCustomDialogs/verification.h"
 
-#include "frame/live_objects.h"
-#include "frame/services.h"
+#include "frame/classes/live_objects.h"
+#include "frame/services/services.h"
 #include "registers.h"
 
 // The component as a whole: the public classes of all subsystems in one register, and the entry points on it.

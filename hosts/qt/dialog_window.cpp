@@ -14,7 +14,7 @@
 #include <utility>
 
 #include "qt/form_layout.h"
-#include "qt/keys.h"
+#include "qt/key_events.h"
 #include "qt/passive_edit.h"
 #include "qt/stand_over.h"
 #include "qt/texts.h"

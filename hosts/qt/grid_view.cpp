@@ -9,7 +9,7 @@
 #include <limits>
 
 #include "qt/colours.h"
-#include "qt/keys.h"
+#include "qt/key_events.h"
 #include "qt/passive_edit.h"
 #include "qt/row_model.h"
 #include "qt/views.h"

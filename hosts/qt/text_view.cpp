@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "qt/colours.h"
-#include "qt/keys.h"
+#include "qt/key_events.h"
 #include "qt/passive_edit.h"
 #include "qt/text_actions.h"
 #include "qt/views.h"

@@ -1,11 +1,11 @@
 #include "notes/frmPanelNotes.h"
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
-#include "frame/modGeneral.h"
-#include "frame/modStoreObj.h"
-#include "frame/services.h"
-#include "frame/utf8.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/services/modGeneral.h"
+#include "frame/services/modStoreObj.h"
+#include "frame/services/services.h"
+#include "frame/values/conversions.h"
+#include "frame/values/utf8.h"
 
 namespace orlin {
 namespace {

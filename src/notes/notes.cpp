@@ -1,8 +1,8 @@
 #include "OrlinCustomDialogs/notes.h"
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
-#include "frame/public_class_of.h"
+#include "frame/classes/public_class_of.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/values/conversions.h"
 #include "notes/frmPanelNotes.h"
 #include "registers.h"
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string>
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/values/conversions.h"
 
 namespace orlin {
 namespace {

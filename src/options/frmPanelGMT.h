@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "frame/dialog.h"
+#include "frame/dialog/dialog.h"
 
 namespace orlin {
 

@@ -1,8 +1,8 @@
 #include "options/frmPhoneOptionsPine.h"
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
-#include "frame/modGeneral.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/services/modGeneral.h"
+#include "frame/values/conversions.h"
 
 namespace orlin {
 namespace {

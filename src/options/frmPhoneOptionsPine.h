@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "frame/dialog.h"
-#include "frame/modPanelTypes.h"
+#include "frame/dialog/dialog.h"
+#include "frame/services/modPanelTypes.h"
 
 namespace orlin {
 

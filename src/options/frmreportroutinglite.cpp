@@ -1,7 +1,7 @@
 #include "options/frmreportroutinglite.h"
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/values/conversions.h"
 
 namespace orlin {
 

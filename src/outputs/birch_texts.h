@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdint>
 
-#include "frame/fill_list.h"
+#include "frame/controls/fill_list.h"
 
 // Lists that several outputs of the Birch panels offer, behind "None".
 

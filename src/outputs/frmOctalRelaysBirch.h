@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "frame/dialog.h"
+#include "frame/dialog/dialog.h"
 
 namespace orlin {
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "frame/dialog.h"
+#include "frame/dialog/dialog.h"
 
 namespace orlin {
 

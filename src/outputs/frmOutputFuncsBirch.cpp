@@ -4,11 +4,11 @@
 #include <span>
 #include <utility>
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
-#include "frame/fill_list.h"
-#include "frame/modGeneral.h"
-#include "frame/zone_box.h"
+#include "frame/controls/fill_list.h"
+#include "frame/controls/zone_box.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/services/modGeneral.h"
+#include "frame/values/conversions.h"
 #include "outputs/birch_texts.h"
 
 namespace orlin {

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
-#include "frame/modGeneral.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/services/modGeneral.h"
+#include "frame/values/conversions.h"
 #include "outputs/pine_functions.h"
 
 namespace orlin {

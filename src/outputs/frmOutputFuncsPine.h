@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "frame/dialog.h"
+#include "frame/dialog/dialog.h"
 
 namespace orlin {
 

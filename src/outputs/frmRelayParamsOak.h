@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string>
 
-#include "frame/dialog.h"
-#include "frame/modPanelTypes.h"
+#include "frame/dialog/dialog.h"
+#include "frame/services/modPanelTypes.h"
 
 namespace orlin {
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <span>
 
-#include "frame/modGeneral.h"
+#include "frame/services/modGeneral.h"
 
 namespace orlin {
 namespace {

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
-#include "frame/modGeneral.h"
-#include "frame/utf8.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/services/modGeneral.h"
+#include "frame/values/conversions.h"
+#include "frame/values/utf8.h"
 #include "schedules/willow_catalogue.h"
 
 namespace orlin {

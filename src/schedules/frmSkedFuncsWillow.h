@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "frame/dialog.h"
-#include "frame/modPanelTypes.h"
+#include "frame/dialog/dialog.h"
+#include "frame/services/modPanelTypes.h"
 #include "schedules/willow_sked_code.h"
 
 namespace orlin {

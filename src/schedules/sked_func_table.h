@@ -7,7 +7,7 @@
 #include <initializer_list>
 #include <span>
 
-#include "frame/modPanelTypes.h"
+#include "frame/services/modPanelTypes.h"
 
 // The functions of a sked of three bytes, as data. The models have one table of functions between them; what a model
 // lacks or limits stands beside it.

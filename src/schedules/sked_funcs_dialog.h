@@ -9,8 +9,8 @@
 
 #include "OrlinCustomDialogs/lists.h"
 
-#include "frame/dialog.h"
-#include "frame/modPanelTypes.h"
+#include "frame/dialog/dialog.h"
+#include "frame/services/modPanelTypes.h"
 #include "schedules/sked_func_table.h"
 
 namespace orlin {

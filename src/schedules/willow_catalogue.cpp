@@ -5,8 +5,8 @@
 #include <cmath>
 #include <cstdint>
 
-#include "frame/conversions.h"
-#include "frame/modGeneral.h"
+#include "frame/services/modGeneral.h"
+#include "frame/values/conversions.h"
 
 namespace orlin::willow {
 namespace {

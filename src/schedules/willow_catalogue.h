@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "frame/modPanelTypes.h"
+#include "frame/services/modPanelTypes.h"
 
 // The functions that a sked of the Willow panels can do, each with a code of three digits.
 

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "frame/conversions.h"
-#include "frame/services.h"
+#include "frame/services/services.h"
+#include "frame/values/conversions.h"
 
 namespace orlin::willow {
 namespace {

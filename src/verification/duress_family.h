@@ -7,7 +7,7 @@
 
 #include "OrlinCustomDialogs/value.h"
 
-#include "frame/modGeneral.h"
+#include "frame/services/modGeneral.h"
 
 // Which passcodes conflict with one another.
 

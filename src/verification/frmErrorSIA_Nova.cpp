@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
-#include "frame/modGeneral.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/services/modGeneral.h"
+#include "frame/values/conversions.h"
 #include "verification/grid_edit.h"
 
 namespace orlin {

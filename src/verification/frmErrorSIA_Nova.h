@@ -7,7 +7,7 @@
 
 #include "OrlinCustomDialogs/verification.h"
 
-#include "frame/dialog.h"
+#include "frame/dialog/dialog.h"
 #include "verification/sia_parameters.h"
 
 namespace orlin {

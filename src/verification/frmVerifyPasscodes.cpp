@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
-#include "frame/modGeneral.h"
-#include "frame/modRegistry.h"
-#include "frame/utf8.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/services/modGeneral.h"
+#include "frame/services/modRegistry.h"
+#include "frame/values/conversions.h"
+#include "frame/values/utf8.h"
 #include "verification/duress_family.h"
 #include "verification/grid_edit.h"
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "frame/dialog.h"
+#include "frame/dialog/dialog.h"
 
 namespace orlin {
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "frame/conversions.h"
-#include "frame/modGeneral.h"
-#include "frame/modPanelTypes.h"
+#include "frame/services/modGeneral.h"
+#include "frame/services/modPanelTypes.h"
+#include "frame/values/conversions.h"
 
 namespace orlin {
 namespace {

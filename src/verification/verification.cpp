@@ -1,9 +1,9 @@
 #include "OrlinCustomDialogs/verification.h"
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
-#include "frame/late_members.h"
-#include "frame/public_class_of.h"
+#include "frame/classes/late_members.h"
+#include "frame/classes/public_class_of.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/values/conversions.h"
 #include "registers.h"
 #include "verification/frmErrorSIA_Nova.h"
 #include "verification/frmVerifyPasscodes.h"

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "frame/dialog.h"
+#include "frame/dialog/dialog.h"
 
 namespace orlin {
 

@@ -1,7 +1,7 @@
 #include "OrlinCustomDialogs/wireless.h"
 
-#include "frame/display_protocol.h"
-#include "frame/public_class_of.h"
+#include "frame/classes/public_class_of.h"
+#include "frame/dialog/display_protocol.h"
 #include "registers.h"
 #include "wireless/frmTransceiverConfiguration.h"
 #include "wireless/frmWSNDeviceTypeInput.h"

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "frame/conversions.h"
+#include "frame/values/conversions.h"
 
 namespace orlin {
 

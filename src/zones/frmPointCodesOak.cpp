@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
-#include "frame/modGeneral.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/services/modGeneral.h"
+#include "frame/values/conversions.h"
 #include "zones/code_digits.h"
 
 namespace orlin {

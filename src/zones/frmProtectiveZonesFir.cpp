@@ -2,11 +2,11 @@
 
 #include <array>
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
-#include "frame/fill_list.h"
-#include "frame/modGeneral.h"
-#include "frame/utf8.h"
+#include "frame/controls/fill_list.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/services/modGeneral.h"
+#include "frame/values/conversions.h"
+#include "frame/values/utf8.h"
 #include "zones/code_digits.h"
 
 namespace orlin {

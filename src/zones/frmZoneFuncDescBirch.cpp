@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <array>
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
-#include "frame/fill_list.h"
-#include "frame/modGeneral.h"
+#include "frame/controls/fill_list.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/services/modGeneral.h"
+#include "frame/values/conversions.h"
 
 namespace orlin {
 namespace {

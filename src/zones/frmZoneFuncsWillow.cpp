@@ -4,10 +4,10 @@
 #include <array>
 #include <string_view>
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
-#include "frame/fill_list.h"
-#include "frame/modGeneral.h"
+#include "frame/controls/fill_list.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/services/modGeneral.h"
+#include "frame/values/conversions.h"
 #include "zones/code_digits.h"
 
 namespace orlin {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/dialog.h"
+#include "frame/dialog/dialog.h"
 
 namespace orlin {
 

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "frame/conversions.h"
-#include "frame/display_protocol.h"
-#include "frame/modPanelTypes.h"
-#include "frame/public_class_of.h"
+#include "frame/classes/public_class_of.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/services/modPanelTypes.h"
+#include "frame/values/conversions.h"
 #include "registers.h"
 #include "zones/frmPointCodesOak.h"
 #include "zones/frmProtectiveZonesFir.h"

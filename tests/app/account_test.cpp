@@ -1,4 +1,4 @@
-#include "app/account.h"
+#include "app/account/account.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -17,11 +17,11 @@
 #include "OrlinCustomDialogs/host/controls.h"
 #include "OrlinCustomDialogs/host/dialog_host.h"
 
-#include "app/edit.h"
-#include "app/installed_platform.h"
-#include "app/usage_error.h"
-#include "app/value_format.h"
-#include "app/value_text.h"
+#include "app/calls/edit.h"
+#include "app/calls/installed_platform.h"
+#include "app/calls/value_format.h"
+#include "app/calls/value_text.h"
+#include "app/command_line/usage_error.h"
 #include "support/dialog_test.h"
 #include "support/temporary_folder.h"
 

@@ -1,4 +1,4 @@
-#include "app/arguments.h"
+#include "app/calls/arguments.h"
 
 #include <memory>
 #include <string>
@@ -9,7 +9,7 @@
 
 #include "OrlinCustomDialogs/security_levels.h"
 
-#include "app/usage_error.h"
+#include "app/command_line/usage_error.h"
 #include "support/dialog_test.h"
 
 namespace orlin::testing {

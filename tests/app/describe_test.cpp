@@ -1,4 +1,4 @@
-#include "app/describe.h"
+#include "app/description/describe.h"
 
 #include <filesystem>
 #include <iterator>
@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "app/status.h"
+#include "app/command_line/status.h"
 #include "support/dialog_test.h"
 #include "support/temporary_folder.h"
 

@@ -1,4 +1,4 @@
-#include "app/edit.h"
+#include "app/calls/edit.h"
 
 #include <fstream>
 #include <iterator>

@@ -9,9 +9,9 @@
 
 #include <gtest/gtest.h>
 
-#include "app/account.h"
-#include "app/arguments.h"
-#include "app/installed_platform.h"
+#include "app/account/account.h"
+#include "app/calls/arguments.h"
+#include "app/calls/installed_platform.h"
 #include "catalogue/text_catalogue.h"
 #include "standard_platform.h"
 #include "support/temporary_folder.h"

@@ -8,9 +8,9 @@
 
 #include <gtest/gtest.h>
 
-#include "app/account.h"
-#include "app/call.h"
-#include "app/installed_platform.h"
+#include "app/account/account.h"
+#include "app/calls/call.h"
+#include "app/calls/installed_platform.h"
 #include "script/script_host.h"
 #include "standard_platform.h"
 #include "support/temporary_folder.h"

@@ -1,4 +1,4 @@
-#include "app/value_text.h"
+#include "app/calls/value_text.h"
 
 #include <cstdint>
 #include <string>
@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/usage_error.h"
+#include "app/command_line/usage_error.h"
 #include "support/dialog_test.h"
 
 namespace orlin::testing {

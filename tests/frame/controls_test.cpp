@@ -1,7 +1,7 @@
 #include <tuple>
 
 #include "form_fixture.h"
-#include "frame/all_controls.h"
+#include "frame/controls/all_controls.h"
 
 // What each kind of control does when code sets it and when the operator uses it: the state, and the events in order.
 

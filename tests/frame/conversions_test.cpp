@@ -1,4 +1,4 @@
-#include "frame/conversions.h"
+#include "frame/values/conversions.h"
 
 #include <cmath>
 #include <utility>

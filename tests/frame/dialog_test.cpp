@@ -1,4 +1,4 @@
-#include "frame/dialog.h"
+#include "frame/dialog/dialog.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #include <tuple>
 
 #include "form_fixture.h"
-#include "frame/all_controls.h"
+#include "frame/controls/all_controls.h"
 
 namespace orlin::testing {
 namespace {

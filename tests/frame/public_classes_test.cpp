@@ -2,7 +2,7 @@
 
 #include "OrlinCustomDialogs/exports.h"
 
-#include "frame/public_class_of.h"
+#include "frame/classes/public_class_of.h"
 #include "support/frame_fixture.h"
 
 namespace orlin::testing {

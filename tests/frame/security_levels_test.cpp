@@ -1,5 +1,4 @@
-#include "frame/security_levels.h"
-
+#include "frame/dialog/rights.h"
 #include "support/frame_fixture.h"
 
 namespace orlin::testing {

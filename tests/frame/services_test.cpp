@@ -1,15 +1,15 @@
-#include "frame/services.h"
+#include "frame/services/services.h"
 
 #include <map>
 #include <tuple>
 
 #include "OrlinCustomDialogs/version.h"
 
-#include "frame/dialog.h"
-#include "frame/display_protocol.h"
-#include "frame/modGeneral.h"
-#include "frame/modRegistry.h"
-#include "frame/modStoreObj.h"
+#include "frame/dialog/dialog.h"
+#include "frame/dialog/display_protocol.h"
+#include "frame/services/modGeneral.h"
+#include "frame/services/modRegistry.h"
+#include "frame/services/modStoreObj.h"
 #include "support/frame_fixture.h"
 
 // The shared services, with components that write down what is asked of them.

@@ -11,7 +11,7 @@
 
 #include "OrlinCustomDialogs/platform.h"
 
-#include "frame/dialog.h"
+#include "frame/dialog/dialog.h"
 #include "support/dialog_test.h"
 
 namespace orlin::testing {

@@ -13,8 +13,8 @@
 
 #include <gtest/gtest.h>
 
-#include "app/account.h"
-#include "app/account_command.h"
+#include "app/account/account.h"
+#include "app/account/account_command.h"
 #include "support/temporary_folder.h"
 #include "support/windows_of_tests.h"
 

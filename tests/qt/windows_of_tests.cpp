@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "qt/open_windows.h"
+#include "window_system/open_windows.h"
 
 namespace orlin::testing {
 namespace {

@@ -30,10 +30,10 @@
 #include "OrlinCustomDialogs/platform.h"
 #include "OrlinCustomDialogs/zones.h"
 
-#include "frame/dialog.h"
+#include "frame/dialog/dialog.h"
 #include "qt/colours.h"
 #include "qt/dialog_window.h"
-#include "qt/keys.h"
+#include "qt/key_events.h"
 #include "qt/qt_host.h"
 
 namespace orlin::testing {

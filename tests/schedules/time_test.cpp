@@ -3,7 +3,7 @@
 
 #include "OrlinCustomDialogs/schedules.h"
 
-#include "frame/modGeneral.h"
+#include "frame/services/modGeneral.h"
 #include "support/broken_catalogue.h"
 #include "support/dialog_test.h"
 

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "catalogue/text_catalogue.h"
-#include "frame/services.h"
+#include "frame/services/services.h"
 #include "standard_platform.h"
 #include "support/frame_fixture.h"
 #include "support/temporary_folder.h"

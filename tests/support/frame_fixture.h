@@ -9,7 +9,7 @@
 
 #include "OrlinCustomDialogs/platform.h"
 
-#include "frame/dialog.h"
+#include "frame/dialog/dialog.h"
 
 namespace orlin::testing {
 

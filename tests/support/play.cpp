@@ -4,8 +4,8 @@
 
 #include "OrlinCustomDialogs/public_classes.h"
 
-#include "app/arguments.h"
-#include "app/edit.h"
+#include "app/calls/arguments.h"
+#include "app/calls/edit.h"
 #include "catalogue/text_catalogue.h"
 #include "script/script.h"
 #include "support/dialog_test.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qt/window_system.h"
+#include "window_system/window_system.h"
 
 namespace orlin::testing {
 

@@ -6,7 +6,7 @@
 
 #include "OrlinCustomDialogs/verification.h"
 
-#include "frame/modGeneral.h"
+#include "frame/services/modGeneral.h"
 #include "support/broken_catalogue.h"
 #include "verification/texts.h"
 

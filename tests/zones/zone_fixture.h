@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "app/arguments.h"
+#include "app/calls/arguments.h"
 #include "support/dialog_test.h"
 
 namespace orlin::testing {

@@ -1,9 +1,9 @@
 #include "frame/controls/control.h"
 
 #include "frame/controls/frame.h"
-#include "frame/dialog.h"
-#include "frame/failure.h"
-#include "frame/modGeneral.h"
+#include "frame/dialog/dialog.h"
+#include "frame/services/modGeneral.h"
+#include "frame/values/skip_failure.h"
 
 namespace orlin {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "frame/utf8.h"
+#include "frame/values/utf8.h"
 
 namespace orlin {
 namespace {

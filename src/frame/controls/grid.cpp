@@ -4,8 +4,8 @@
 
 #include "OrlinCustomDialogs/failure.h"
 
-#include "frame/conversions.h"
-#include "frame/utf8.h"
+#include "frame/values/conversions.h"
+#include "frame/values/utf8.h"
 
 namespace orlin {
 namespace {

@@ -5,8 +5,8 @@
 
 #include "OrlinCustomDialogs/failure.h"
 
-#include "frame/dialog.h"
-#include "frame/utf8.h"
+#include "frame/dialog/dialog.h"
+#include "frame/values/utf8.h"
 
 namespace orlin {
 namespace {

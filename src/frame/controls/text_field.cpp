@@ -1,6 +1,6 @@
 #include "frame/controls/text_field.h"
 
-#include "frame/utf8.h"
+#include "frame/values/utf8.h"
 
 namespace orlin {
 

@@ -4,7 +4,7 @@
 
 #include "OrlinCustomDialogs/failure.h"
 
-#include "frame/conversions.h"
+#include "frame/values/conversions.h"
 
 namespace orlin {
 

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "OrlinCustomDialogs/public_classes.h"
+#include "OrlinCustomDialogs/value.h"
+
+#include "app/calls/call.h"
+#include "app/calls/installed_platform.h"
+#include "app/description/description.h"
+#include "standard_platform.h"
+
+namespace orlin {
+
+/// Tells what values mean, in words. As long as it lives, the library stands on the platform of this one.
+class Describer {
+ public:
+  /// Faults are recorded only where the platform names a file. `PlatformError` for one that makes no sense.
+  explicit Describer(StandardPlatformOptions platform);
+
+  /// Opens nothing for anybody, and changes nothing.
+  [[nodiscard]] Description Describe(const PublicClass& publicClass, std::vector<Value> values, ValueForm form);
+
+ private:
+  class Host;
+  static Platform PlatformFor(const std::shared_ptr<Host>& host, StandardPlatformOptions options);
+
+  std::shared_ptr<Host> host_;
+  InstalledPlatform installed_;
+};
+
+}  // namespace orlin
