@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "app/command_line/command.h"
-#include "app/command_line/status.h"
+#include "app/usage/status.h"
 #include "window_system/open_windows.h"
 
 namespace {

@@ -16,7 +16,7 @@
 #include <unistd.h>
 
 #include "app/calls/arguments.h"
-#include "app/calls/value_format.h"
+#include "app/calls/value_text.h"
 
 namespace orlin {
 namespace {

@@ -10,7 +10,7 @@
 #include "OrlinCustomDialogs/public_classes.h"
 #include "OrlinCustomDialogs/value.h"
 
-#include "app/command_line/usage_error.h"
+#include "app/usage/usage_error.h"
 
 namespace orlin {
 

@@ -9,10 +9,10 @@
 #include "app/account/account.h"
 #include "app/calls/arguments.h"
 #include "app/calls/installed_platform.h"
-#include "app/calls/value_format.h"
-#include "app/command_line/status.h"
+#include "app/calls/value_text.h"
 #include "app/description/describer.h"
 #include "app/description/description_output.h"
+#include "app/usage/status.h"
 
 namespace orlin {
 namespace {

@@ -10,8 +10,8 @@
 #include "OrlinCustomDialogs/security_levels.h"
 
 #include "app/calls/value_text.h"
-#include "app/command_line/suggestion.h"
-#include "app/command_line/usage_error.h"
+#include "app/usage/suggestion.h"
+#include "app/usage/usage_error.h"
 
 namespace orlin {
 namespace {

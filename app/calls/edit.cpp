@@ -9,8 +9,8 @@
 
 #include "app/calls/arguments.h"
 #include "app/calls/installed_platform.h"
-#include "app/command_line/status.h"
-#include "app/command_line/usage_error.h"
+#include "app/usage/status.h"
+#include "app/usage/usage_error.h"
 #include "script/script_host.h"
 #include "script/trace.h"
 
@@ -57,21 +57,11 @@ void Tell(Trace& trace, const PublicClass& publicClass, const Outcome& outcome) 
   }
 }
 
-ScriptedHost HostFor(ScriptedCall& call, Trace& trace) {
-  if (call.Windows != nullptr) return call.Windows->ScriptedWindows(std::move(call.Script), trace, call.Strict);
-  auto host = std::make_shared<ScriptHost>(std::move(call.Script), trace, call.Strict);
+ScriptedHost HostFor(EditorCall& call, Trace& trace) {
+  if (!call.Script) return {call.Windows->Windows(), [] {}};
+  if (call.Windows != nullptr) return call.Windows->ScriptedWindows(*std::move(call.Script), trace, call.Strict);
+  auto host = std::make_shared<ScriptHost>(*std::move(call.Script), trace, call.Strict);
   return {host, [host] { host->Finish(); }};
-}
-
-/// The operator sits in front of the screen; what comes back is told at the end.
-Outcome RunInWindows(const PublicClass& publicClass, std::vector<Value> values, ValueForm form,
-                     StandardPlatformOptions platform, WindowSystem& windows, std::ostream& out) {
-  platform.Host = windows.Windows();
-  const InstalledPlatform installed(StandardPlatform(platform));
-  auto outcome = Call(publicClass, std::move(values), form);
-  Trace trace(out);
-  Tell(trace, publicClass, outcome);
-  return outcome;
 }
 
 int StatusOf(const Outcome& outcome) {
@@ -81,13 +71,15 @@ int StatusOf(const Outcome& outcome) {
 
 }  // namespace
 
-Outcome Run(ScriptedCall call, std::ostream& out) {
+Outcome Run(EditorCall call, std::ostream& out) {
   Trace trace(out);
+  if (call.Script) {
+    call.Platform.OnFaultLogged = [&trace](const LoggedFault& fault) {
+      trace.FaultLogged(fault.Number, fault.Module, fault.Procedure, fault.AdditionalText, fault.Shown);
+    };
+  }
   const auto host = HostFor(call, trace);
   call.Platform.Host = host.Host;
-  call.Platform.OnFaultLogged = [&trace](const LoggedFault& fault) {
-    trace.FaultLogged(fault.Number, fault.Module, fault.Procedure, fault.AdditionalText, fault.Shown);
-  };
   const InstalledPlatform installed(StandardPlatform(call.Platform));
   auto outcome = Call(call.Class, std::move(call.Arguments), call.Form);
   host.Finish();
@@ -97,19 +89,18 @@ Outcome Run(ScriptedCall call, std::ostream& out) {
 
 int Edit(const EditOptions& options, std::istream& in, std::ostream& out, const WindowOpener& windows) {
   const auto& publicClass = ClassNamed(options.Class);
-  auto values = BindArguments(publicClass, options.Arguments, options.Levels);
-  const bool inWindows =
-      options.Host.value_or(options.Script ? HostKind::Script : HostKind::Windows) == HostKind::Windows;
-  if (!inWindows && !options.Script) throw UsageError("--host script wants --script FILE");
-  WindowSystem* const system = inWindows ? &windows(Screen::Visible) : nullptr;
-  const auto statusOf = [&](const Outcome& outcome) { return options.ExitStatus ? StatusOf(outcome) : status::Done; };
-  if (!options.Script) {
-    return statusOf(RunInWindows(publicClass, std::move(values), options.Form, options.Platform, *system, out));
-  }
-  ScriptedCall call{publicClass, std::move(values), ReadScript(*options.Script, in), options.Strict, options.Platform,
-                    system,      options.Form};
+  EditorCall call{publicClass,      BindArguments(publicClass, options.Arguments, options.Levels),
+                  std::nullopt,     options.Strict,
+                  options.Platform, nullptr,
+                  options.Form};
+  const auto host = options.Host.value_or(options.Script ? HostKind::Script : HostKind::Windows);
+  if (host == HostKind::Script && !options.Script) throw UsageError("--host script wants --script FILE");
+  // Before the script is read: the program with windows reads it anew.
+  if (host == HostKind::Windows) call.Windows = &windows(Screen::Visible);
+  if (options.Script) call.Script = ReadScript(*options.Script, in);
   try {
-    return statusOf(Run(std::move(call), out));
+    const auto outcome = Run(std::move(call), out);
+    return options.ExitStatus ? StatusOf(outcome) : status::Done;
   } catch (const StrictRefusal&) {
     return status::Refused;
   }

@@ -34,18 +34,19 @@ struct EditOptions {
 /// `UsageError` or `PlatformError` before the class is called.
 int Edit(const EditOptions& options, std::istream& in, std::ostream& out, const WindowOpener& windows);
 
-/// One call of `Display` with an operator made of text.
-struct ScriptedCall {
+/// One call of `Display` with somebody to operate it.
+struct EditorCall {
   const PublicClass& Class;
   std::vector<Value> Arguments;
-  std::vector<Action> Script;
+  std::optional<std::vector<Action>> Script;  ///< nothing: the operator sits in front of the windows
   bool Strict = false;
   StandardPlatformOptions Platform;
-  WindowSystem* Windows = nullptr;  ///< the operator works these windows; null: there is no screen
+  WindowSystem* Windows = nullptr;  ///< null: there is no screen, which wants a script
   ValueForm Form = ValueForm::Arguments;
 };
 
-/// Makes the call, with a trace on `out`. Throws `StrictRefusal` (see `ScriptPlayer`), and `PlatformError`.
-Outcome Run(ScriptedCall call, std::ostream& out);
+/// Makes the call, with a trace on `out`: of all that happens where there is a script, else of what comes back alone.
+/// Throws `StrictRefusal` (see `ScriptPlayer`), and `PlatformError`.
+Outcome Run(EditorCall call, std::ostream& out);
 
 }  // namespace orlin

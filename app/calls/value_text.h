@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "OrlinCustomDialogs/value.h"
@@ -20,5 +21,9 @@ namespace orlin {
 
 /// The whole text as a decimal 16-bit integer; `UsageError` where it is none.
 [[nodiscard]] std::int16_t ParseInteger(std::string_view text);
+
+/// The text that `ParseValue` reads as that very value, its kind included. `UsageError` for what has no such text: an
+/// object, infinity, a NaN, an array that does not begin at index 0.
+[[nodiscard]] std::string FormatValue(const Value& value);
 
 }  // namespace orlin

@@ -7,7 +7,7 @@
 
 #include "app/command_line/command_line.h"
 #include "app/command_line/language.h"
-#include "app/command_line/status.h"
+#include "app/usage/status.h"
 
 namespace orlin {
 namespace {

@@ -11,8 +11,8 @@
 
 #include "app/command_line/command_options.h"
 #include "app/command_line/language.h"
-#include "app/command_line/suggestion.h"
-#include "app/command_line/usage_error.h"
+#include "app/usage/suggestion.h"
+#include "app/usage/usage_error.h"
 
 namespace orlin {
 namespace {

@@ -7,7 +7,7 @@
 #include <CLI/CLI.hpp>
 
 #include "app/command_line/language.h"
-#include "app/command_line/suggestion.h"
+#include "app/usage/suggestion.h"
 
 namespace orlin {
 namespace {

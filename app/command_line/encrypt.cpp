@@ -12,8 +12,8 @@
 #include <termios.h>
 #include <unistd.h>
 
-#include "app/command_line/status.h"
-#include "app/command_line/usage_error.h"
+#include "app/usage/status.h"
+#include "app/usage/usage_error.h"
 #include "cipher/ccrypt.h"
 
 namespace orlin {

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "app/command_line/suggestion.h"
-#include "app/command_line/usage_error.h"
+#include "app/usage/suggestion.h"
+#include "app/usage/usage_error.h"
 #include "catalogue/languages.h"
 
 namespace orlin {

@@ -10,7 +10,7 @@
 #include "OrlinCustomDialogs/public_classes.h"
 
 #include "app/calls/arguments.h"
-#include "app/command_line/status.h"
+#include "app/usage/status.h"
 
 namespace orlin {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <unistd.h>
 
-#include "app/command_line/usage_error.h"
+#include "app/usage/usage_error.h"
 
 namespace orlin {
 

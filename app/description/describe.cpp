@@ -4,9 +4,9 @@
 
 #include "app/account/account.h"
 #include "app/calls/arguments.h"
-#include "app/command_line/status.h"
 #include "app/description/describer.h"
 #include "app/description/description_output.h"
+#include "app/usage/status.h"
 
 namespace orlin {
 

@@ -2,6 +2,8 @@
 #include <string_view>
 #include <utility>
 
+#include "OrlinCustomDialogs/written_text.h"
+
 #include "app/description/description_output.h"
 
 namespace orlin {
@@ -12,11 +14,7 @@ constexpr std::size_t kWidestCaption = 36;
 constexpr std::size_t kTabWidth = 8;
 constexpr std::string_view kNothing = "(nothing selected)";
 
-/// In characters; every byte of UTF-8 but the first of a character continues it.
-std::size_t Width(std::string_view text) {
-  return static_cast<std::size_t>(
-      std::count_if(text.begin(), text.end(), [](unsigned char c) { return (c & 0xC0) != 0x80; }));
-}
+std::size_t Width(std::string_view text) { return static_cast<std::size_t>(CharacterCount(text)); }
 
 std::string Padded(std::string text, std::size_t width) {
   text.append(width - std::min(width, Width(text)), ' ');

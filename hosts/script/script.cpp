@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "OrlinCustomDialogs/host/dialog_host.h"
+#include "OrlinCustomDialogs/written_text.h"
 
 #include "script/text_literal.h"
 
@@ -84,9 +85,9 @@ class WordReader {
   }
 
   std::u32string Text() {
-    auto characters = CharactersOf(Take(true));
-    if (!characters) throw BadText("the text is not UTF-8");
-    return *std::move(characters);
+    const auto text = Take(true);
+    if (!IsUtf8(text)) throw BadText("the text is not UTF-8");
+    return FromUtf8(text);
   }
 
   /// Whether the word is the first of the two.
@@ -125,8 +126,8 @@ Key KeyNamed(std::string_view name) {
   if (known != kKeys.end()) return Key::Named(known->second);
   constexpr std::string_view alt = "Alt+";
   if (name.starts_with(alt)) {
-    const auto letter = CharactersOf(name.substr(alt.size()));
-    if (letter && letter->size() == 1) return Key::Access(letter->front());
+    const auto letter = FromUtf8(name.substr(alt.size()));
+    if (letter.size() == 1 && !IsStrayByte(letter.front())) return Key::Access(letter.front());
   }
   throw Unwanted();
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -16,7 +15,7 @@ class BadText : public std::runtime_error {
 /// Reads the text in double quotes that `rest` begins with, and drops it from there. Escapes: \" \\ \t \n \r
 [[nodiscard]] std::string ReadQuoted(std::string_view& rest);
 
-/// The characters of a UTF-8 text; nothing where it is none.
-[[nodiscard]] std::optional<std::u32string> CharactersOf(std::string_view text);
+/// The text in double quotes, as `ReadQuoted` reads it.
+[[nodiscard]] std::string Quoted(std::string_view text);
 
 }  // namespace orlin

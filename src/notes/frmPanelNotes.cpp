@@ -1,11 +1,12 @@
 #include "notes/frmPanelNotes.h"
 
+#include "OrlinCustomDialogs/written_text.h"
+
 #include "frame/dialog/display_protocol.h"
 #include "frame/services/modGeneral.h"
 #include "frame/services/modStoreObj.h"
 #include "frame/services/services.h"
 #include "frame/values/conversions.h"
-#include "frame/values/utf8.h"
 
 namespace orlin {
 namespace {

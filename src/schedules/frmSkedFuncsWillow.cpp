@@ -2,10 +2,11 @@
 
 #include <utility>
 
+#include "OrlinCustomDialogs/written_text.h"
+
 #include "frame/dialog/display_protocol.h"
 #include "frame/services/modGeneral.h"
 #include "frame/values/conversions.h"
-#include "frame/values/utf8.h"
 #include "schedules/willow_catalogue.h"
 
 namespace orlin {

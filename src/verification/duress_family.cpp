@@ -4,8 +4,9 @@
 #include <optional>
 #include <unordered_map>
 
+#include "OrlinCustomDialogs/written_text.h"
+
 #include "frame/values/conversions.h"
-#include "frame/values/utf8.h"
 
 namespace orlin {
 namespace {

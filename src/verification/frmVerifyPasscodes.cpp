@@ -2,11 +2,12 @@
 
 #include <algorithm>
 
+#include "OrlinCustomDialogs/written_text.h"
+
 #include "frame/dialog/display_protocol.h"
 #include "frame/services/modGeneral.h"
 #include "frame/services/modRegistry.h"
 #include "frame/values/conversions.h"
-#include "frame/values/utf8.h"
 #include "verification/duress_family.h"
 #include "verification/grid_edit.h"
 

@@ -2,11 +2,12 @@
 
 #include <array>
 
+#include "OrlinCustomDialogs/written_text.h"
+
 #include "frame/controls/fill_list.h"
 #include "frame/dialog/display_protocol.h"
 #include "frame/services/modGeneral.h"
 #include "frame/values/conversions.h"
-#include "frame/values/utf8.h"
 #include "zones/code_digits.h"
 
 namespace orlin {

@@ -19,9 +19,8 @@
 
 #include "app/calls/edit.h"
 #include "app/calls/installed_platform.h"
-#include "app/calls/value_format.h"
 #include "app/calls/value_text.h"
-#include "app/command_line/usage_error.h"
+#include "app/usage/usage_error.h"
 #include "support/dialog_test.h"
 #include "support/temporary_folder.h"
 

@@ -9,7 +9,7 @@
 
 #include "OrlinCustomDialogs/security_levels.h"
 
-#include "app/command_line/usage_error.h"
+#include "app/usage/usage_error.h"
 #include "support/dialog_test.h"
 
 namespace orlin::testing {

@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "app/command_line/status.h"
+#include "app/usage/status.h"
 #include "support/dialog_test.h"
 #include "support/temporary_folder.h"
 

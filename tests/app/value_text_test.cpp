@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/command_line/usage_error.h"
+#include "app/usage/usage_error.h"
 #include "support/dialog_test.h"
 
 namespace orlin::testing {

@@ -87,7 +87,7 @@ struct Played {
 };
 
 /// Makes the call with the files of the options in a folder of its own, whose name does not show in the trace.
-Played RunIn(ScriptedCall call, const PlayOptions& options) {
+Played RunIn(EditorCall call, const PlayOptions& options) {
   const TemporaryFolder folder;
   call.Platform = PlatformFor(options, folder);
   std::ostringstream trace;
@@ -149,12 +149,12 @@ DialogRun Play(std::string_view publicClass, const std::vector<std::string>& arg
   const auto* called = FindPublicClass(publicClass);
   if (called == nullptr) throw std::invalid_argument("no public class " + std::string(publicClass));
   const auto& parameters = called->Parameters();
-  ScriptedCall call{*called, BindArguments(*called, arguments, options.Levels), ParseScript(script), false, {}};
+  EditorCall call{*called, BindArguments(*called, arguments, options.Levels), ParseScript(script), false, {}};
   for (std::size_t i = 0; i < parameters.size(); ++i) {
     const auto object = options.Objects.find(parameters[i].Name);
     if (object != options.Objects.end()) call.Arguments[i] = object->second;
   }
-  const auto answers = std::count_if(call.Script.begin(), call.Script.end(), [](const Action& action) {
+  const auto answers = std::count_if(call.Script->begin(), call.Script->end(), [](const Action& action) {
     return std::holds_alternative<actions::Answer>(action.Do);
   });
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "frame/values/utf8.h"
+#include "OrlinCustomDialogs/written_text.h"
 
 namespace orlin {
 namespace {

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "OrlinCustomDialogs/failure.h"
+#include "OrlinCustomDialogs/written_text.h"
 
 #include "frame/values/conversions.h"
-#include "frame/values/utf8.h"
 
 namespace orlin {
 namespace {

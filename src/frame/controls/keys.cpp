@@ -1,6 +1,6 @@
 #include "OrlinCustomDialogs/host/keys.h"
 
-#include "frame/values/utf8.h"
+#include "OrlinCustomDialogs/written_text.h"
 
 namespace orlin {
 namespace {

@@ -4,9 +4,9 @@
 #include <limits>
 
 #include "OrlinCustomDialogs/failure.h"
+#include "OrlinCustomDialogs/written_text.h"
 
 #include "frame/dialog/dialog.h"
-#include "frame/values/utf8.h"
 
 namespace orlin {
 namespace {

@@ -1,6 +1,6 @@
 #include "frame/controls/text_field.h"
 
-#include "frame/values/utf8.h"
+#include "OrlinCustomDialogs/written_text.h"
 
 namespace orlin {
 

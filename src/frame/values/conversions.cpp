@@ -9,8 +9,7 @@
 #include <utility>
 
 #include "OrlinCustomDialogs/failure.h"
-
-#include "frame/values/utf8.h"
+#include "OrlinCustomDialogs/written_text.h"
 
 namespace orlin {
 namespace {

@@ -1,4 +1,4 @@
-#include "app/command_line/suggestion.h"
+#include "app/usage/suggestion.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,11 +1,13 @@
-#include "frame/values/utf8.h"
+#include "OrlinCustomDialogs/written_text.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace orlin {
 namespace {
 
-// Stray bytes 0x80 to 0xFF stand as the characters 0xDC80 to 0xDCFF, which no UTF-8 text holds.
+// Stray bytes stand as the characters 0xDC80 to 0xDCFF, which no UTF-8 text holds.
 constexpr char32_t kStrayByte = 0xDC00;
 
 struct Decoded {
@@ -35,7 +37,7 @@ Decoded DecodeAt(std::string_view text, std::size_t at) {
 
 void Append(std::string& text, char32_t character) {
   const auto byte = [&text](char32_t bits) { text.push_back(static_cast<char>(bits)); };
-  if (character >= kStrayByte + 0x80 && character <= kStrayByte + 0xFF) {
+  if (IsStrayByte(character)) {
     byte(character - kStrayByte);
   } else if (character < 0x80) {
     byte(character);
@@ -53,6 +55,11 @@ void Append(std::string& text, char32_t character) {
     byte(0x80 | (character & 0x3F));
   }
 }
+
+struct Escape {
+  char Letter, Meaning;
+};
+constexpr std::array<Escape, 5> kEscapes{{{'t', '\t'}, {'n', '\n'}, {'r', '\r'}, {'\\', '\\'}, {'"', '"'}}};
 
 }  // namespace
 
@@ -74,6 +81,15 @@ std::string ToUtf8(std::u32string_view characters) {
   return text;
 }
 
+bool IsUtf8(std::string_view text) {
+  for (std::size_t at = 0; at < text.size();) {
+    const auto decoded = DecodeAt(text, at);
+    if (IsStrayByte(decoded.Character)) return false;
+    at += decoded.Bytes;
+  }
+  return true;
+}
+
 int CharacterCount(std::string_view text) {
   int count = 0;
   for (std::size_t at = 0; at < text.size(); at += DecodeAt(text, at).Bytes) ++count;
@@ -83,6 +99,23 @@ int CharacterCount(std::string_view text) {
 char32_t SmallLetter(char32_t letter) noexcept {
   const bool capital = (letter >= U'A' && letter <= U'Z') || (letter >= 0xC0 && letter <= 0xDE && letter != 0xD7);
   return capital ? letter + 0x20 : letter;
+}
+
+std::optional<char> Unescaped(char letter) noexcept {
+  const auto* const found = std::find_if(kEscapes.begin(), kEscapes.end(),
+                                         [letter](const Escape& escape) { return escape.Letter == letter; });
+  return found != kEscapes.end() ? std::optional(found->Meaning) : std::nullopt;
+}
+
+std::string Escaped(std::string_view text) {
+  std::string escaped;
+  for (const char c : text) {
+    const auto* const found =
+        std::find_if(kEscapes.begin(), kEscapes.end(), [c](const Escape& escape) { return escape.Meaning == c; });
+    if (found != kEscapes.end()) escaped.push_back('\\');
+    escaped.push_back(found != kEscapes.end() ? found->Letter : c);
+  }
+  return escaped;
 }
 
 }  // namespace orlin
