@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <map>
-#include <set>
 #include <utility>
 
+#include "OrlinCustomDialogs/host/form.h"
 #include "OrlinCustomDialogs/host/keys.h"
 
 namespace orlin {
@@ -17,10 +17,6 @@ std::string Spoken(const std::string& caption) {
   auto spoken = PlainCaption(caption);
   while (spoken.ends_with(' ') || spoken.ends_with(':')) spoken.pop_back();
   return spoken;
-}
-
-bool IsSingleLine(const Control& control) {
-  return control.Kind() == ControlKind::TextBox && !control.AsTextField()->MultiLine();
 }
 
 std::string FrameOf(const Control& control) {
@@ -53,61 +49,82 @@ told::Choice ChoiceIn(const shown::RowList& list, bool labelled) {
   return choice;
 }
 
-/// Reads the controls of a dialog in their order.
+/// Reads the form of a dialog row by row.
 class Teller {
  public:
-  explicit Teller(const shown::Dialog& dialog) : dialog_(dialog) {}
+  explicit Teller(const shown::Dialog& dialog) : form_(FormOf(dialog)) {}
 
   std::vector<ToldControl> Tell() {
-    FindJoined();
-    FindCaptions();
-    FindColours();
-    for (const auto* control : dialog_.Controls()) {
-      if (control->IsShown()) Tell(*control);
-    }
+    FindColours(form_.Body);
+    for (const auto& [frame, rows] : form_.Frames) FindColours(rows);
+    Tell(form_.Body);
     return std::move(told_);
   }
 
  private:
+  void FindColours(const std::vector<FormRow>& rows) {
+    for (const auto& row : rows) {
+      const auto* key = row.What == FormRow::Kind::Text && !row.Lines.empty() ? row.Lines.front().front() : nullptr;
+      if (key != nullptr && key->IsShown() && key->BackColor()) meanings_[*key->BackColor()] = row.Label;
+    }
+  }
+
+  void Tell(const std::vector<FormRow>& rows) {
+    for (const auto& row : rows) {
+      switch (row.What) {
+        case FormRow::Kind::Buttons:
+          break;
+        case FormRow::Kind::Frame:
+          Tell(form_.Frames.at(row.Lines.front().front()));
+          break;
+        case FormRow::Kind::Text:
+          TellText(*row.Label);
+          break;
+        case FormRow::Kind::Pair:
+          TellPair(*row.Label, *row.Lines.front().front());
+          break;
+        default:
+          for (const auto& line : row.Lines) TellLine(line);
+      }
+    }
+  }
+
+  void TellText(const Control& label) {
+    const auto isMeaning = [&](const auto& entry) { return entry.second == &label; };
+    if (std::any_of(meanings_.begin(), meanings_.end(), isMeaning)) return;
+    if (label.IsShown() && !label.Caption().empty()) Add(label, told::Text{PlainCaption(label.Caption())});
+  }
+
+  /// "Code of zone 5", and further on "4000"
+  void TellPair(const Control& heading, const Control& value) {
+    const bool told = value.IsShown() && !value.Caption().empty();
+    TellText(told ? value : heading);
+    if (told && heading.IsShown()) told_.back().Caption = Spoken(heading.Caption());
+  }
+
   /// A unit is told with what stands before it, and a box behind a unit or a separator with these.
-  void FindJoined() {
-    std::map<const Control*, const Control*> lastIn;  // a container
-    for (const auto* control : dialog_.Controls()) {
-      if (!control->IsShown()) continue;
-      const auto* before = std::exchange(lastIn[control->Parent()], control);
-      if (control->Role() == LabelRole::Unit) joined_[control] = Joins::WithBlank;
-      if (control->Role() == LabelRole::Separator) joined_[control] = Joins::WithoutBlank;
-      if (joined_.contains(before) && IsSingleLine(*control)) joined_[control] = joined_[before];
+  void TellLine(const FormLine& line) {
+    auto joins = Joins::No;
+    for (const auto* control : line) {
+      if (!control->IsShown() || control->Kind() == ControlKind::UpDown) continue;
+      if (control->Role() == LabelRole::Unit) joins = Joins::WithBlank;
+      if (control->Role() == LabelRole::Separator) joins = Joins::WithoutBlank;
+      const auto before = told_.size();
+      TellControl(*control);
+      if (told_.size() > before && before > 0) told_.back().Joins = joins;
     }
   }
 
-  /// Several labels may stand before a control: the last one names it, and the others are texts.
-  void FindCaptions() {
-    for (const auto* control : dialog_.Controls()) {
-      if (!control->IsShown() || joined_.contains(control)) continue;
-      const auto* named = control->Names();
-      if (named != nullptr && !Spoken(control->Caption()).empty()) labels_[named] = control;
-    }
-  }
-
-  void FindColours() {
-    for (const auto* control : dialog_.Controls()) {
-      if (control->Role() != LabelRole::ColourKey || !control->IsShown() || !control->BackColor()) continue;
-      meanings_[*control->BackColor()] = Spoken(control->ToldBy()->Caption());
-      explained_.insert(control->ToldBy());
-    }
-  }
-
-  void Tell(const Control& control) {
+  void TellControl(const Control& control) {
     switch (control.Kind()) {
       case ControlKind::Label:
-        return TellText(control);
+        return Add(control, told::Text{PlainCaption(control.Caption())});
       case ControlKind::TextBox:
         return Add(control, told::Text{control.AsTextField()->Text()});
       case ControlKind::ComboBox:
         return Add(control, ChoiceOf(control));
       case ControlKind::ListBox:
-        return Add(control, ChoiceIn(*control.AsRowList(), labels_.contains(&control)));
+        return Add(control, ChoiceIn(*control.AsRowList(), !LabelOf(control).empty()));
       case ControlKind::CheckBox:
       case ControlKind::OptionButton:
         return Add(control, told::Mark{control.AsMark()->IsOn()});
@@ -118,40 +135,19 @@ class Teller {
     }
   }
 
-  void TellText(const Control& label) {
-    const auto text = PlainCaption(label.Caption());
-    if (joined_.contains(&label)) return Add(label, told::Text{text});
-    const auto* named = label.Names();
-    const auto caption = labels_.find(named);
-    const bool isCaption =
-        named != nullptr && (!named->IsShown() || (caption != labels_.end() && caption->second == &label));
-    if (text.empty() || isCaption || explained_.contains(&label)) return;
-    // "Code of zone 5", and further on "4000"
-    if (const auto* heading = label.ToldBy(); heading != nullptr) {
-      const auto told =
-          std::find_if(told_.begin(), told_.end(), [&](auto& one) { return one.Name == heading->Name(); });
-      if (told != told_.end()) {
-        auto& shown = std::get<told::Text>(told->Shows).Shown;
-        told->Caption = Spoken(shown);
-        told->Name = label.Name();
-        shown = text;
-        return;
-      }
-    }
-    Add(label, told::Text{text});
+  [[nodiscard]] std::string LabelOf(const Control& control) const {
+    const auto label = form_.Labels.find(&control);
+    return label != form_.Labels.end() && label->second->IsShown() ? Spoken(label->second->Caption()) : std::string();
   }
 
   void Add(const Control& control, decltype(ToldControl::Shows) shows) {
     ToldControl one;
     one.Name = control.Name();
     one.Kind = control.Kind();
-    const auto label = labels_.find(&control);
     if (control.AsMark() != nullptr) one.Caption = Spoken(control.Caption());
-    if (one.Caption.empty() && label != labels_.end()) one.Caption = Spoken(label->second->Caption());
+    if (one.Caption.empty()) one.Caption = LabelOf(control);
     one.Frame = FrameOf(control);
     one.Enabled = control.WithinReach();
-    const auto joins = joined_.find(&control);
-    if (joins != joined_.end() && !told_.empty()) one.Joins = joins->second;
     one.Shows = std::move(shows);
     told_.push_back(std::move(one));
   }
@@ -166,17 +162,14 @@ class Teller {
         const auto& cell = grid.CellAt(row, col);
         cells.push_back(cell.Text);
         const auto meaning = meanings_.find(cell.Color);
-        if (meaning != meanings_.end()) table.Remarks.push_back({row, col, meaning->second});
+        if (meaning != meanings_.end()) table.Remarks.push_back({row, col, Spoken(meaning->second->Caption())});
       }
     }
     return table;
   }
 
-  const shown::Dialog& dialog_;
-  std::map<const Control*, Joins> joined_;
-  std::map<const Control*, const Control*> labels_;
-  std::map<std::int32_t, std::string> meanings_;  // of colours
-  std::set<const Control*> explained_;            // labels that are among the meanings
+  Form form_;
+  std::map<std::int32_t, const Control*> meanings_;  // of colours: the labels that tell them
   std::vector<ToldControl> told_;
 };
 

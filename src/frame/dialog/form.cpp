@@ -150,7 +150,7 @@ class Planner {
       Continue(field);
     } else if (label == nullptr && FieldIsOpen()) {
       rows_.back().Lines.push_back({&field});
-      if (rows_.back().Label != nullptr) labels_[&field] = rows_.back().Label;
+      if (rows_.back().Label != nullptr && field.SpokenName().empty()) labels_[&field] = rows_.back().Label;
       if (kind == FormRow::Kind::Tall) rows_.back().What = kind;
     } else {
       Add({kind, label, {{&field}}});
