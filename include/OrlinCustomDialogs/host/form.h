@@ -37,7 +37,7 @@ struct Form {
   FormLine LeftButtons;   ///< of the button row: those that do not end the dialog
   FormLine RightButtons;  ///< OK and Cancel
   shown::Control* Status = nullptr;
-  /// The label of each field that has one; fields that take turns share it.
+  /// The label of each field that has one; fields that take turns share it, but for those with a name of their own.
   std::map<const shown::Control*, shown::Control*> Labels;
 
   /// What a control is called by a screen reader: by its own caption, by what the dialog declares, by its label, by the
