@@ -181,6 +181,13 @@ void Account::Read() try {
   throw UsageError(what.substr(std::min(what.find("] ") + 2, what.size())));
 }
 
+bool Account::ReadAgain() {
+  auto text = TextOf(file_);
+  if (text == text_) return false;
+  *this = Account(file_, std::move(text));
+  return true;
+}
+
 std::vector<Value> Account::ValuesOf(std::size_t parameter) const {
   const auto& stored = parameters_.at(parameter);
   try {

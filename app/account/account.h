@@ -50,6 +50,12 @@ class Account {
   [[nodiscard]] const std::string& Panel() const noexcept { return panel_; }
   [[nodiscard]] const std::vector<Parameter>& Parameters() const noexcept { return parameters_; }
 
+  [[nodiscard]] const std::filesystem::path& File() const noexcept { return file_; }
+
+  /// Reads the file again, and tells whether it has changed. `UsageError` as when it was first read; this account then
+  /// stays as it is.
+  bool ReadAgain();
+
   /// The values of a parameter as they are stored, one for each parameter of its class; for `SecurityLevels` the
   /// rights.
   [[nodiscard]] std::vector<Value> ValuesOf(std::size_t parameter) const;

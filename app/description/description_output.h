@@ -16,6 +16,9 @@ void PrintText(const Description& description, const std::optional<std::string>&
 /// Prints a description for programs: a JSON object on one line.
 void PrintJson(const Description& description, const std::optional<std::string>& name, std::ostream& out);
 
+/// All that a description tells, in one line.
+[[nodiscard]] std::string WordsOf(const Description& description);
+
 /// What two descriptions of one parameter tell differently, in one line each, such as "First digit: 5. Medical zone;
 /// Second digit: 1. Instant". All that they tell where one of them tells nothing of its own.
 [[nodiscard]] std::pair<std::string, std::string> DifferentWords(const Description& a, const Description& b);

@@ -13,6 +13,7 @@ namespace {
 constexpr std::size_t kWidestCaption = 36;
 constexpr std::size_t kTabWidth = 8;
 constexpr std::string_view kNothing = "(nothing selected)";
+constexpr std::string_view kBetween = "; ";  // words on one line
 
 std::size_t Width(std::string_view text) { return static_cast<std::size_t>(CharacterCount(text)); }
 
@@ -235,12 +236,13 @@ void PrintText(const Description& description, const std::optional<std::string>&
   if (!shown && description.Notes.empty()) out << "  ! the dialog has nothing to show\n";
 }
 
+std::string WordsOf(const Description& description) { return Joined(Words(description), kBetween); }
+
 std::pair<std::string, std::string> DifferentWords(const Description& a, const Description& b) {
-  constexpr std::string_view between = "; ";
   const auto all = std::pair(Words(a), Words(b));
   const auto own = std::pair(Without(all.first, all.second), Without(all.second, all.first));
   const auto& told = own.first.empty() || own.second.empty() ? all : own;
-  return {Joined(told.first, between), Joined(told.second, between)};
+  return {Joined(told.first, kBetween), Joined(told.second, kBetween)};
 }
 
 }  // namespace orlin

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,7 +15,22 @@
 
 namespace orlin {
 
-/// A table of parameters, each of which opens in its editor.
+/// What a parameter holds, for the eye.
+struct ShownValues {
+  std::string Words;  ///< what the values mean, on one line
+  std::string Raw;
+
+  bool operator==(const ShownValues& other) const = default;
+};
+
+struct ParameterRow {
+  std::string Name;
+  std::string Hint;  ///< the class that edits it
+  ShownValues Now;
+  std::optional<ShownValues> Before;  ///< what it held when the table was opened, where that was something else
+};
+
+/// A table of parameters, each of which opens in its editor. What it says is in the language of the operator.
 class ParameterTable {
  public:
   ParameterTable() = default;
@@ -22,13 +39,25 @@ class ParameterTable {
   virtual ~ParameterTable() = default;
 
   [[nodiscard]] virtual std::string Title() const = 0;
-  [[nodiscard]] virtual std::vector<std::string> Columns() const = 0;
-  [[nodiscard]] virtual std::size_t Rows() const = 0;
-  /// One text for each column.
-  [[nodiscard]] virtual std::vector<std::string> Row(std::size_t row) const = 0;
-  /// Opens the editor of a row, and returns what came of it in one line, also where it cannot be opened or stored. Any
-  /// row may be another one afterwards.
+  /// A text of the catalogue.
+  [[nodiscard]] virtual std::string Text(std::int16_t number) const = 0;
+  [[nodiscard]] virtual const std::vector<ParameterRow>& Rows() const = 0;
+
+  // Each of these returns in one line what came of it, also where nothing did. Any row may be another one afterwards.
+
+  /// Opens the editor of a row.
   virtual std::string Open(std::size_t row) = 0;
+  /// Puts back what the last change replaced, or takes that back.
+  virtual std::string Undo() = 0;
+  virtual std::string Redo() = 0;
+  /// Reads the file again, which another program may have changed. Empty where nothing is new.
+  virtual std::string Refresh() = 0;
+
+  /// The file that the parameters stand in.
+  [[nodiscard]] virtual std::string File() const = 0;
+  [[nodiscard]] virtual bool HasSecrets() const = 0;
+  /// Shows passcodes as they are, or as dots.
+  virtual void ShowSecrets(bool shown) = 0;
 };
 
 /// A host that a script works.

@@ -32,6 +32,7 @@ struct Parameter {
   ParameterKind Kind = ParameterKind::Any;
   bool Changes = false;   ///< `Display` may write the argument
   bool Optional = false;  ///< an empty value stands for an argument that is not given
+  bool Secret = false;    ///< holds passcodes of people: a host shows and records them only where it is asked to
 };
 
 /// How the values that a host stores of a class go through a call and come out of it. Values stand in the order of the
@@ -44,6 +45,8 @@ struct StoringRules {
   /// Brings the values that are stored up to date after a confirmed call. Usual: each argument that `Display` may write
   /// takes the place of the value from before.
   std::function<void(std::vector<Value>& stored, const std::vector<Value>& returned)> Update = {};
+  /// The places of the parameters that are `Parameter::Secret`. Usual: none.
+  std::vector<std::size_t> Secrets = {};
 };
 
 /// A public class as it is reached by name instead of by type.

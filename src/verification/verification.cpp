@@ -70,7 +70,7 @@ std::vector<PublicClass> VerificationClasses() {
       PublicClassOf("clspasscodeLen", &clspasscodeLen::Display,
                     {"vresult", "vpresent", "bChangedStatus", "vPasscodeLength", "iTotalNoOfUsers", "bThroughSIA",
                      "bThroughComm", "SecurityLevels"},
-                    {.Confirmed = PasscodesCount, .Update = UpdatePasscodes}, 5),
+                    {.Confirmed = PasscodesCount, .Update = UpdatePasscodes, .Secrets = {0, 1}}, 5),
   };
 }
 

@@ -213,7 +213,8 @@ TEST(EnglishTexts, AreAllInUse) {
                                   10708, 10709, 10710, 10711, 10716, 10724, 10725, 10728, 10730, 10744};
   const auto asked = Explored(LanguageOf("en"));
   for (const auto& [number, text] : LanguageOf("en").Texts) {
-    EXPECT_NE(asked.contains(number), toldByMessages.contains(number)) << number << ' ' << text;
+    const bool ofHosts = number >= 20000;  // windows and commands say them
+    EXPECT_TRUE(ofHosts || asked.contains(number) != toldByMessages.contains(number)) << number << ' ' << text;
   }
 }
 

@@ -28,7 +28,7 @@ mkfifo "$work/number"
 Xvfb -displayfd 3 -noreset -nolisten tcp 3>"$work/number" >"$work/server.log" 2>&1 &
 started+=($!)
 read -r number <"$work/number" || fail "Xvfb does not start."
-export DISPLAY=:$number QT_QPA_PLATFORM=xcb
+export DISPLAY=:$number QT_QPA_PLATFORM=xcb XDG_CONFIG_HOME=$work
 unset WAYLAND_DISPLAY
 
 account=$work/account.json
@@ -58,6 +58,12 @@ until_closed() {
   while shows "$1"; do :; done
 }
 expect() { grep -qF "$1" "$account" || fail "The account holds no $1." "$(head -60 "$account")"; }
+until_holds() {
+  until grep -qF "$1" "$account"; do
+    kill -0 "$host" || fail "The program ended."
+    ((SECONDS < 60)) || expect "$1"
+  done
+}
 
 window_titled '^Account of panel'
 press Return
@@ -71,7 +77,11 @@ expect '"ZoneCode": "\"3146\""'
 press Down Return # the type from 3 to 4
 until_closed '^Edit Zone 12$'
 window_titled '^Account of panel'
-press Up Return
-window_titled '^Zone Function$'
-expect '"ZoneCode": "\"3146\""'
-expect '"vType": "4"'
+until_closed '^Edit Zone 12$'
+window_titled '^Account of panel'
+press ctrl+z
+until_holds '"vType": "3"'
+press ctrl+z ctrl+shift+z
+until_holds '"ZoneCode": "\"3146\""'
+press ctrl+shift+z
+until_holds '"vType": "4"'

@@ -45,7 +45,9 @@ PublicClass::PublicClass(std::string name, std::vector<Parameter> parameters, Ca
     : name_(std::move(name)),
       parameters_(std::move(parameters)),
       display_(std::move(display)),
-      storing_(std::move(storing)) {}
+      storing_(std::move(storing)) {
+  for (const auto place : storing_.Secrets) parameters_.at(place).Secret = true;
+}
 
 void PublicClass::CheckNumber(const std::vector<Value>& values) const {
   if (values.size() == parameters_.size()) return;
