@@ -53,18 +53,18 @@ void ReportFault(const FaultKind& kind, const Failure& failure, const std::strin
   if (kind.Clears) faultObject->Clear();
 }
 
-std::string GetLocalText(std::int16_t id) {
+std::string GetLocalText(int id) {
   try {
     auto& catalogue = Services().Catalogue;
     if (catalogue == nullptr) catalogue = Create<LocalTextComponent>("LocalText.clsLocalText");
-    return catalogue->GetLocalTextBASE(id);
+    return catalogue->GetLocalTextBASE(static_cast<std::int16_t>(id));
   } catch (const Failure& failure) {
     ReportFault(kGetLocalTextFault, failure, "");
     return {};
   }
 }
 
-std::string GetLocalText(std::int16_t id, const std::string& sName, const std::string& sValue) {
+std::string GetLocalText(int id, const std::string& sName, const std::string& sValue) {
   return ReplaceVariable(GetLocalText(id), sName, sValue);
 }
 
