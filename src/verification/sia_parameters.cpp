@@ -35,13 +35,13 @@ constexpr SiaPresentValue kAsLetter{0, true};
 // which is the whole account.
 // clang-format off
 constexpr std::array<SiaParameter, kSiaRows> kParameters = {{
-    // key name   min     max        allowed string default allowed characters area            present value format
+    // key name   min     max        allowed string default allowed characters area            present    format
     {},
-    {29,   10686, 45,     255,       kByFives,      60,     kDigits,           SiaArea{29, 1}, kAsPassed,    ByFives},
+    {29,   10686, 45,     255,       kByFives,      60,     kDigits,           SiaArea{29, 1}, kAsPassed, ByFives},
     {27,   10687, 6,      90,        kNone,         6,      kDigits,           SiaArea{27, 1}, kAsPassed},
     {7,    10688, 3,      3,         kNone,         3,      kDigits,           kNoArea,        kAsPassed},
-    {37,   10689, 1,      kPanelMax, " A,B,C",      "A",    "1234567890ABC",   SiaArea{37, 1}, kAsPassed,    PointOrLetter},
-    {22,   10690, 30,     240,       kByFives,      30,     kDigits,           SiaArea{0, 0},  kAsPassed,    ByFives},
+    {37,   10689, 1,      kPanelMax, " A,B,C",      "A",    "1234567890ABC",   SiaArea{37, 1}, kAsPassed, PointOrLetter},
+    {22,   10690, 30,     240,       kByFives,      30,     kDigits,           SiaArea{0, 0},  kAsPassed, ByFives},
     {54,   10691, 15,     45,        kNone,         30,     kDigits,           kNoArea,        kAsPassed},
     {53,   10692, 1,      2,         kNone,         1,      kDigits,           kNoArea,        kAsPassed},
     {65,   10693, kYes,   kYes,      kNone,         kYes,   kNone,             SiaArea{63, 1}, kAsNo},
