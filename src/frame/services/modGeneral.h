@@ -49,8 +49,4 @@ void ReportFailure(const FaultKind& kind, Statement&& statement) {
   }
 }
 
-/// `ReplaceVariable` for the module that is given as the reporter of its failures.
-[[nodiscard]] std::string ReplaceVariableFor(std::string_view moduleName, const std::string& sText,
-                                             const std::string& sName, const std::string& sValue);
-
 }  // namespace orlin
