@@ -8,7 +8,7 @@
 #include "OrlinCustomDialogs/lists.h"
 #include "OrlinCustomDialogs/verification.h"
 
-#include "frame/classes/live_objects.h"
+#include "frame/classes/late_members.h"
 #include "frame/services/services.h"
 #include "registers.h"
 

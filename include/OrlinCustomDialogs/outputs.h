@@ -118,7 +118,7 @@ class PulseCountPine {
  public:
   /// `vName`: names the item in the title; only shown.
   ///
-  /// `vInterval1`, `vInterval2`: the two intervals of the panel in seconds, 16-bit integers; only shown.
+  /// `vInterval1`, `vInterval2`: the two intervals of the panel, 16-bit integers; only shown.
   ///
   /// `vPulseCount`: 1 for one pulse of the first interval, 0 for one of the second, 2 to 15 for that many pulses. Any
   /// other number selects none. An Integer after OK, -1 where none is selected.

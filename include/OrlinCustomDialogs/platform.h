@@ -19,7 +19,7 @@ struct Platform {
   std::shared_ptr<BitRoutines> Bits;
   /// Needed by fault reports and by the notes.
   std::shared_ptr<orlin::Clock> Clock;
-  /// Needed by the notes alone, for a trial opening of a file database.
+  /// Used by the notes alone, to tell of a database whose file is missing.
   std::shared_ptr<DatabaseEngine> Engine;
   /// Factories of the components that are created by name: "LocalText.clsLocalText",
   /// "FaultObject.clsFaultObject", "storeObj.clsDList", "Kesmit.Encryption.CCrypt". A name that is missing

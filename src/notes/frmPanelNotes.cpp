@@ -11,12 +11,6 @@
 namespace orlin {
 namespace {
 
-constexpr FaultKind kDisplayFault{.ModuleName = "frmPanelNotes",
-                                  .ProcedureName = "Display()",
-                                  .OnlyWithFaultObject = true,
-                                  .Shows = true,
-                                  .Clears = true};
-
 // The table, and the entry of the data list.
 constexpr const char* kPanelNotes = "PanelNotes";
 // The only kind of note that is written to the store.
@@ -43,55 +37,56 @@ std::string QueryFor(const NoteKey& key) {
          " AND [NoteTypeID] = " + std::to_string(key.NoteTypeID);
 }
 
+/// Closes what it holds in the end.
+template <class Ptr>
+struct Closing {
+  Closing() = default;
+  Closing(const Closing&) = delete;
+  Closing& operator=(const Closing&) = delete;
+  ~Closing() {
+    SkipFailure([this] {
+      if (Held != nullptr) Held->Close();
+    });
+  }
+  auto* operator->() const { return Held.get(); }
+
+  Ptr Held;
+};
+
 /// The row of one text in the account store, open as long as this lives.
 class StoredNotes {
  public:
   StoredNotes(const NoteKey& key, DListComponent::Mode mode) {
     // Where notes are read, a file has to be there; the first note that is stored makes it.
     Store().SetMakesMissingFile(mode == DListComponent::Writing);
-    RaiseResult(OpenSecureDB(kPanelNotes, db_, false));
-    try {
-      RaiseResult(Store().CreateDynaWise(db_, rs_, QueryFor(key), kRows, kPanelNotes, mode));
-    } catch (...) {
-      Close();
-      throw;
-    }
+    // One that does not open is not closed.
+    DatabasePtr db;
+    RaiseResult(OpenSecureDB(kPanelNotes, db, false));
+    db_.Held = db;
+    RaiseResult(Store().CreateDynaWise(db_.Held, rs_.Held, QueryFor(key), kRows, kPanelNotes, mode));
   }
-  StoredNotes(const StoredNotes&) = delete;
-  StoredNotes& operator=(const StoredNotes&) = delete;
-  ~StoredNotes() { Close(); }
 
   /// An empty text where there is no row.
   [[nodiscard]] std::string Memo() { return rs_->Eof() ? std::string() : ToText(rs_->Fields("Memo").Value()); }
 
   void Delete() {
-    if (!rs_->Eof()) RaiseResult(Store().DeleteDsWise(rs_, kRows, ""));
+    if (!rs_->Eof()) RaiseResult(Store().DeleteDsWise(rs_.Held, kRows, ""));
   }
 
   void Save(const NoteKey& key, const std::string& memo) {
-    RaiseResult(rs_->Eof() ? Store().AddNewDsWise(rs_, kRows, "") : Store().EditDsWise(rs_, kRows, ""));
+    RaiseResult(rs_->Eof() ? Store().AddNewDsWise(rs_.Held, kRows, "") : Store().EditDsWise(rs_.Held, kRows, ""));
     rs_->Fields("PanelGUID").SetValue(key.PanelGUID);
     rs_->Fields("NoteHeader").SetValue(key.NoteHeader);
     rs_->Fields("NoteTypeID").SetValue(key.NoteTypeID);
     rs_->Fields("Memo").SetValue(memo);
-    RaiseResult(Store().UpdateDsWise(rs_, kRows, ""));
+    RaiseResult(Store().UpdateDsWise(rs_.Held, kRows, ""));
   }
 
  private:
   static constexpr std::int16_t kRows = DListComponent::kDynamicRows;
 
-  void Close() noexcept {
-    SkipFailure(
-        [this] {
-          if (rs_ != nullptr) rs_->Close();
-        },
-        [this] {
-          if (db_ != nullptr) db_->Close();
-        });
-  }
-
-  DatabasePtr db_;
-  RecordsetPtr rs_;
+  Closing<DatabasePtr> db_;
+  Closing<RecordsetPtr> rs_;
 };
 
 }  // namespace
@@ -123,7 +118,9 @@ std::int32_t frmPanelNotes::Display(const std::string& PanelGUID, const std::str
     Content = notes;
     return confirmed ? kConfirmed : kNotConfirmed;
   };
-  steps.Report = [](const Failure& failure) { ReportFault(kDisplayFault, failure, failure.Description()); };
+  steps.Report = [](const Failure& failure) {
+    ReportFault({"frmPanelNotes", "Display()", true}, failure, failure.Description());
+  };
   return RunDisplay(Form, steps);
 }
 

@@ -37,7 +37,8 @@ std::int32_t frmPanelGMT::Display(std::int16_t& iHrs, std::int16_t& iMins, std::
     EntryHours = iHrs;
     EntryMinutes = iMins;
     SetPanelTime(iHrs, iMins, iIsPanelBehind, iPanelDayLightSaving);
-    ApplySecurityLevelsToAll(Form.SecurityLevels(), {udHrsfromGMT, udMinfromGMT, chkPanelTime, chkPanelDayLightSaving});
+    ApplySecurityLevels(Form.SecurityLevels(),
+                        {{kEveryRecord, {udHrsfromGMT, udMinfromGMT, chkPanelTime, chkPanelDayLightSaving}}});
   };
   steps.Encode = [&] {
     iHrs = udHrsfromGMT.Value();

@@ -40,11 +40,9 @@ constexpr std::array<OnboardType, 14> kTypes = {{
     {14, 1915, kOnlyTheFirst},
 }};
 
-// The type whose option is forced, and the option that is stored with it, whichever was selected.
-constexpr int kForcedType = 13;
-constexpr std::int16_t kForcedOption = 1;
-
-constexpr std::size_t kLastOption = 4;
+// Positions: of the only type with five options, and of that whose option is forced.
+constexpr int kWithFiveOptions = 10;
+constexpr int kForced = 13;
 
 /// The code 12 opens the type behind the gap.
 std::int16_t PositionOf(std::int16_t code) {
@@ -76,7 +74,7 @@ std::int32_t frmOnboardOutputsBirch::Display(const Value& vName, Value& vType, V
   };
   steps.Encode = [&] {
     const auto position = cmbType.ListIndex();
-    vOption = position == kForcedType ? kForcedOption : SelectedOption;
+    vOption = position == kForced ? std::int16_t{1} : SelectedOption;
     vType = kTypes[static_cast<std::size_t>(position)].Code;
   };
   return RunDisplay(Form, steps);
@@ -93,14 +91,13 @@ void frmOnboardOutputsBirch::optOption_Click(int index) { SelectedOption = stati
 void frmOnboardOutputsBirch::FillOnboardOptions() {
   const auto position = cmbType.ListIndex();
   const auto captions = kTypes[static_cast<std::size_t>(position)].Captions;
-  SetOptionsEnabled(position != kForcedType);
+  SetOptionsEnabled(position != kForced);
   for (std::size_t i = 0; i < captions.size(); ++i) {
     SkipFailure([&] { optOption[i].SetCaption(GetLocalText(captions[i])); });
   }
-  if (position == kForcedType) optOption[0].SetValue(true);
-  auto& last = optOption[kLastOption];
-  last.SetVisible(captions.size() > kLastOption);
-  if (!last.Visible() && last.Value()) optOption[kLastOption - 1].SetValue(true);
+  if (position == kForced) optOption[0].SetValue(true);
+  optOption[4].SetVisible(position == kWithFiveOptions);
+  if (!optOption[4].Visible() && optOption[4].Value()) optOption[3].SetValue(true);
 }
 
 void frmOnboardOutputsBirch::SetOptionsEnabled(bool on) {

@@ -46,7 +46,7 @@ constexpr std::array<OutputFunction, 14> kFunctions = {{
     {15, 1357, 1350, kArmingOptions, true, true},
 }};
 
-/// The code 2 opens the function behind its gap, 5 the one before.
+/// The code 2 opens the function behind it, 5 the one before it.
 std::int16_t PositionOf(std::int16_t code) {
   if (code == 3 || code == 4) return static_cast<std::int16_t>(code - 1);
   return code > 4 ? static_cast<std::int16_t>(code - 2) : code;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "frame/controls/fill_list.h"
 #include "frame/dialog/display_protocol.h"
 #include "frame/services/modGeneral.h"
 #include "frame/values/conversions.h"
@@ -10,67 +11,34 @@
 namespace orlin {
 namespace {
 
-enum class Items { None, Points, Keys, Users };
-
-struct RelayFunction {
-  std::int16_t Text;
-  Items CheckItems = Items::None;
-};
-// By function code.
-constexpr std::array<RelayFunction, 25> kFunctions = {{
-    {1494},                 //  0
-    {1495, Items::Points},  //  1
-    {1496, Items::Points},  //  2
-    {1497, Items::Points},  //  3
-    {1498, Items::Points},  //  4
-    {1499, Items::Points},  //  5
-    {1500, Items::Keys},    //  6
-    {1501, Items::Keys},    //  7
-    {1502, Items::Keys},    //  8
-    {1503, Items::Users},   //  9
-    {1504},                 // 10
-    {1505},                 // 11
-    {1506},                 // 12
-    {1507},                 // 13
-    {1508},                 // 14
-    {1509},                 // 15
-    {1510},                 // 16
-    {1511},                 // 17
-    {1216},                 // 18
-    {1512},                 // 19
-    {1513},                 // 20
-    {1514},                 // 21
-    {1515},                 // 22
-    {1516},                 // 23
-    {1317},                 // 24
-}};
-
-constexpr int kKeyItems = 3;
-constexpr int kUserItems = 8;
+// The texts of the functions, by code.
+constexpr std::array<std::int16_t, 25> kTexts = {1494, 1495, 1496, 1497, 1498, 1499, 1500, 1501, 1502,
+                                                 1503, 1504, 1505, 1506, 1507, 1508, 1509, 1510, 1511,
+                                                 1216, 1512, 1513, 1514, 1515, 1516, 1317};
 
 struct Model {
   ePanelType Type;
-  std::int16_t LastCode;
-  std::int16_t MissingCode;  // has no line in the list; its number opens the line of the next code
+  std::int16_t LastPosition;
   int PointItems;
 };
-constexpr std::int16_t kNoneMissing = 25;
 constexpr std::array<Model, 3> kModels = {{
-    {ePanelType::OakGrand, 24, kNoneMissing, 24},
-    {ePanelType::OakMid, 18, kNoneMissing, 8},
-    {ePanelType::OakBase, 24, 23, 6},
+    {ePanelType::OakGrand, 24, 24},
+    {ePanelType::OakMid, 18, 8},
+    {ePanelType::OakBase, 23, 6},
 }};
 
-const Model& ModelOf(ePanelType type) {
-  return *std::find_if(kModels.begin(), kModels.end(), [&](const auto& model) { return model.Type == type; });
+const Model& ModelOf(ePanelType type) { return *std::ranges::find(kModels, type, &Model::Type); }
+
+// The code is the position, but for the last one of OakBase, which lacks the code of that number.
+constexpr std::int16_t kLastCode = 24;
+constexpr std::int16_t kLastPositionOnBase = 23;
+
+std::int16_t PositionOf(std::int16_t code, ePanelType type) {
+  return type == ePanelType::OakBase && code == kLastCode ? kLastPositionOnBase : code;
 }
 
-std::int16_t PositionOf(std::int16_t code, const Model& model) {
-  return code > model.MissingCode ? static_cast<std::int16_t>(code - 1) : code;
-}
-
-std::int16_t CodeAt(std::int16_t position, const Model& model) {
-  return position >= model.MissingCode ? static_cast<std::int16_t>(position + 1) : position;
+std::int16_t CodeAt(std::int16_t position, ePanelType type) {
+  return type == ePanelType::OakBase && position == kLastPositionOnBase ? kLastCode : position;
 }
 
 }  // namespace
@@ -93,13 +61,13 @@ std::int32_t frmRelayParamsOak::Display(const Value& RelayNo, const Value& Funct
       ParamBits.At(i) = static_cast<std::int16_t>(ToByte(ParamBits.At(i)));
     }
     FillFunctionList();
-    cmbFunction.SelectRow(PositionOf(ToInteger(FunctionCode), ModelOf(PanelType)));
+    cmbFunction.SelectRow(PositionOf(ToInteger(FunctionCode), PanelType));
     ApplySecurityLevels(Form.SecurityLevels(),
                         {{FunctionKey, {lblFunction, cmbFunction}}, {ParameterKey, {lblParameter, lstMSParam}}});
     Form.SetCaption(ReplaceVariable(GetLocalText(1493, "RELAY", ToText(RelayNo)), "FUNCTION", ToText(FunctionNo)));
   };
   steps.Encode = [&] {
-    FunctionCode = CodeAt(cmbFunction.ListIndex(), ModelOf(PanelType));
+    FunctionCode = CodeAt(cmbFunction.ListIndex(), PanelType);
     auto& bits = AsArray(ParameterCode);
     const std::int32_t items = lstMSParam.ListCount();
     for (std::int32_t i = 0; i < items; ++i) bits.At(i) = static_cast<std::int16_t>(lstMSParam.Selected(i));
@@ -109,39 +77,36 @@ std::int32_t frmRelayParamsOak::Display(const Value& RelayNo, const Value& Funct
 }
 
 void frmRelayParamsOak::FillFunctionList() {
-  const auto& model = ModelOf(PanelType);
   cmbFunction.Clear();
-  for (std::int16_t code = 0; code <= model.LastCode; ++code) {
-    if (code == model.MissingCode) continue;
-    SkipFailure([&] { cmbFunction.AddItem(GetLocalText(kFunctions[static_cast<std::size_t>(code)].Text)); });
+  for (std::int16_t position = 0; position <= ModelOf(PanelType).LastPosition; ++position) {
+    AddLocalText(cmbFunction, kTexts[static_cast<std::size_t>(CodeAt(position, PanelType))]);
   }
 }
 
 void frmRelayParamsOak::cmbFunction_Click() { FillParameterList(); }
 
 void frmRelayParamsOak::FillParameterList() {
-  const auto& model = ModelOf(PanelType);
   lstMSParam.Clear();
   // A right that has no record restricts nothing.
   bool enabled = true;
   SkipFailure([&] { enabled = MayEdit(Form.SecurityLevels(), ParameterKey); });
   lstMSParam.SetEnabled(enabled);
-  switch (kFunctions[static_cast<std::size_t>(CodeAt(cmbFunction.ListIndex(), model))].CheckItems) {
-    case Items::Points:
-      return AddParameters(model.PointItems, 400, "POINT");
-    case Items::Keys:
-      return AddParameters(kKeyItems, 1517, "KEY");
-    case Items::Users:
-      return AddParameters(kUserItems, 1518, "USER");
-    case Items::None:
-      lstMSParam.SetEnabled(false);
+  const auto position = cmbFunction.ListIndex();
+  if (position >= 1 && position <= 5) {
+    AddParameters(ModelOf(PanelType).PointItems, 400, "POINT");
+  } else if (position >= 6 && position <= 8) {
+    AddParameters(3, 1517, "KEY", true);
+  } else if (position == 9) {
+    AddParameters(8, 1518, "USER");
+  } else {
+    lstMSParam.SetEnabled(false);
   }
 }
 
-void frmRelayParamsOak::AddParameters(int count, std::int16_t text, const std::string& variable) {
+void frmRelayParamsOak::AddParameters(int count, std::int16_t text, const std::string& variable, bool lettered) {
   for (int item = 0; item < count; ++item) {
-    // Keys are lettered from A.
-    const auto number = variable == "KEY" ? HexText(item + 10) : std::to_string(item + 1);
+    // Letters go on from the hexadecimal digit A.
+    const auto number = lettered ? HexText(item + 10) : std::to_string(item + 1);
     SkipFailure([&] { lstMSParam.AddItem(GetLocalText(text, variable, number)); },
                 [&] { lstMSParam.SetSelected(item, ToInteger(ParamBits.At(item)) == 1); });
   }

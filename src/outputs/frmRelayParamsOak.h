@@ -19,7 +19,7 @@ class frmRelayParamsOak {
  private:
   void FillFunctionList();
   void FillParameterList();
-  void AddParameters(int count, std::int16_t text, const std::string& variable);
+  void AddParameters(int count, std::int16_t text, const std::string& variable, bool lettered = false);
 
   void cmbFunction_Click();
   void lstMSParam_ItemCheck(int Item);

@@ -47,7 +47,8 @@ constexpr std::array<std::int32_t, 1> k32 = {32};
 constexpr std::array<std::int32_t, 1> k40 = {40};
 constexpr std::array<std::int32_t, 2> k41And42 = {41, 42};
 
-/// Some panels have another text in place of a plain one.
+/// Some panels have another text in place of a plain one, wherever that stands: but for the spare text, in one place,
+/// or in one numbered group.
 struct OtherText {
   std::int16_t Plain;
   std::span<const std::int32_t> PanelTypes;

@@ -18,14 +18,6 @@ std::string Line(std::int16_t position) {
   return TwoDigits(position / 2) + (position % 2 == 0 ? ":00" : ":30");
 }
 
-constexpr FaultKind Fault(std::string_view procedure) {
-  return {.ModuleName = "frmCustDisplayStringList",
-          .ProcedureName = procedure,
-          .OnlyWithFaultObject = false,
-          .Shows = true,
-          .Clears = true};
-}
-
 }  // namespace
 
 frmCustDisplayStringList::frmCustDisplayStringList() {
@@ -48,12 +40,12 @@ std::int32_t frmCustDisplayStringList::Display(std::int16_t Index, Value& res) {
     if (!ChosenIndex.IsEmpty()) res = ChosenIndex;
     return kConfirmed;
   };
-  steps.Report = [](const Failure& failure) { ReportFault(Fault("Display"), failure, ""); };
+  steps.Report = [](const Failure& failure) { ReportFault({"frmCustDisplayStringList", "Display"}, failure, ""); };
   return RunDisplay(Form, steps);
 }
 
 void frmCustDisplayStringList::List1_Click() {
-  ReportFailure(Fault("List1_Click"), [&] {
+  ReportFailure({"frmCustDisplayStringList", "List1_Click"}, [&] {
     const auto row = List1.ListIndex();
     if (row < 0) return;
     ChosenIndex = std::to_string(row);

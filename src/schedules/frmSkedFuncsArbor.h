@@ -7,7 +7,7 @@ namespace orlin {
 /// The sked function of the Arbor models.
 class frmSkedFuncsArbor : public SkedFuncsDialog {
  public:
-  frmSkedFuncsArbor();
+  frmSkedFuncsArbor() : SkedFuncsDialog("frmSkedFuncsArbor", sked::kArbor) {}
 };
 
 }  // namespace orlin

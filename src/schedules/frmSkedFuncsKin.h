@@ -7,7 +7,7 @@ namespace orlin {
 /// The sked function of the Kin models.
 class frmSkedFuncsKin : public SkedFuncsDialog {
  public:
-  frmSkedFuncsKin();
+  frmSkedFuncsKin() : SkedFuncsDialog("frmSkedFuncsKin", sked::kKin) {}
 };
 
 }  // namespace orlin

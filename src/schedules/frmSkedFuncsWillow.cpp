@@ -15,10 +15,10 @@ namespace {
 constexpr int kHours = 24;
 constexpr int kMinutes = 60;
 
-constexpr std::int16_t kJanuary = 1156;
+constexpr int kJanuary = 1156;
 constexpr int kMonths = 12;
 // Keys of the days' records, which are texts of the catalogue; Sunday's is the first.
-constexpr std::int16_t kFirstDayRecord = 1537;
+constexpr int kFirstDayRecord = 1537;
 
 constexpr std::string_view kDateRecord = "Date";
 constexpr std::string_view kCodeRecord = "Function Code Ref.# and Description";
@@ -45,8 +45,8 @@ frmSkedFuncsWillow::frmSkedFuncsWillow() {
   };
   setTimeBox(txtHour, kHours);
   setTimeBox(txtMinute, kMinutes);
-  udTime.UpClick = [this] { StepTime(willow::NextTimePart); };
-  udTime.DownClick = [this] { StepTime(willow::PreviousTimePart); };
+  udTime.UpClick = [this] { StepTime(1); };
+  udTime.DownClick = [this] { StepTime(-1); };
   cmbMonth.Click = [this] { FillDays(); };
   cmbDay.GotFocus = [this] { cmbDay_GotFocus(); };
   chkDOW.OnClick([this](int index) { chkDOW_Click(index); });
@@ -131,20 +131,20 @@ void frmSkedFuncsWillow::HideSkedFrames() {
   fraCode.SetVisible(false);
 }
 
-std::optional<bool> frmSkedFuncsWillow::ViewLevelReaches(std::int16_t SecurityLevel::*level,
-                                                         std::string_view key) const {
-  std::optional<bool> reaches;
+frmSkedFuncsWillow::Rights frmSkedFuncsWillow::RightsBy(std::string_view key, Rights withoutRecord) const {
+  auto rights = withoutRecord;
   SkipFailure([&] {
-    const auto& levels = Form.SecurityLevels();
-    reaches = levels.Item(kAuthorityLevel).ViewLevel >= levels.Item(key).*level;
+    const auto own = Form.SecurityLevels().Item(kAuthorityLevel).ViewLevel;
+    const auto& record = Form.SecurityLevels().Item(key);
+    rights = {own >= record.ViewLevel, own >= record.EditLevel};
   });
-  return reaches;
+  return rights;
 }
 
 void frmSkedFuncsWillow::ShowWithinRights(Frame& part, std::string_view key) {
-  // A part without a record is not restricted.
-  if (ViewLevelReaches(&SecurityLevel::ViewLevel, key).value_or(true)) part.SetVisible(true);
-  if (ViewLevelReaches(&SecurityLevel::EditLevel, key).value_or(true)) part.SetEnabled(true);
+  const auto rights = RightsBy(key, {true, true});
+  if (rights.Visible) part.SetVisible(true);
+  if (rights.Enabled) part.SetEnabled(true);
 }
 
 void frmSkedFuncsWillow::DisplayDate(const Value* vSkedData) {
@@ -170,14 +170,13 @@ void frmSkedFuncsWillow::DisplayDOW(const Value* vSkedData) {
   int enabledDays = 0;
   for (int day = 0; day < willow::kDaysOfWeek; ++day) {
     std::string key;
-    SkipFailure([&] { key = GetLocalText(static_cast<std::int16_t>(kFirstDayRecord + day)); });
+    SkipFailure([&] { key = GetLocalText(kFirstDayRecord + day); });
     // Unlike the other parts, a day needs a record that allows it.
-    const bool visible = ViewLevelReaches(&SecurityLevel::ViewLevel, key).value_or(false);
-    const bool enabled = ViewLevelReaches(&SecurityLevel::EditLevel, key).value_or(false);
-    chkDOW[day].SetVisible(visible);
-    chkDOW[day].SetEnabled(enabled);
-    visibleDays += visible ? 1 : 0;
-    enabledDays += enabled ? 1 : 0;
+    const auto rights = RightsBy(key, {false, false});
+    chkDOW[day].SetVisible(rights.Visible);
+    chkDOW[day].SetEnabled(rights.Enabled);
+    visibleDays += rights.Visible ? 1 : 0;
+    enabledDays += rights.Enabled ? 1 : 0;
   }
   if (visibleDays == 0) fraDOW.SetVisible(false);
   if (enabledDays == 0) fraDOW.SetEnabled(false);
@@ -198,10 +197,9 @@ void frmSkedFuncsWillow::chkDOW_Click(int Index) {
 
 void frmSkedFuncsWillow::FillMonths() {
   RefillKeepingRow(cmbMonth, [&] {
-    cmbMonth.AddItem("**", willow::DaysInMonth(0));
-    for (std::int16_t month = 1; month <= kMonths; ++month) {
-      const auto number = static_cast<std::int16_t>(kJanuary + month - 1);
-      SkipFailure([&] { cmbMonth.AddItem(GetLocalText(number), willow::DaysInMonth(month)); });
+    cmbMonth.AddItem(willow::kEvery, willow::DaysInMonth(0));
+    for (int month = 1; month <= kMonths; ++month) {
+      SkipFailure([&] { cmbMonth.AddItem(GetLocalText(kJanuary + month - 1), willow::DaysInMonth(month)); });
     }
   });
 }
@@ -210,7 +208,7 @@ void frmSkedFuncsWillow::FillDays() {
   if (cmbMonth.ListIndex() == -1) return;
   const int days = cmbMonth.ItemData(cmbMonth.ListIndex());
   RefillKeepingRow(cmbDay, [&] {
-    cmbDay.AddItem("**");
+    cmbDay.AddItem(willow::kEvery);
     for (int day = 1; day <= days; ++day) cmbDay.AddItem(std::to_string(day));
   });
 }
@@ -228,7 +226,7 @@ void frmSkedFuncsWillow::TimeBox_KeyPress(TextBox& box, int limit, int& key) {
   if (box.SelLength() > 0) box.SetText("");
   const auto text = box.Text();
   if (text != "*" && key >= '0' && key <= '9') {
-    if (NumericValue(text + static_cast<char>(key)) <= limit - 1) return;
+    if (NumericValue(text + static_cast<char>(key)) < limit) return;
   } else if (key == '*' && (text.empty() || text == "*")) {
     return;
   } else if (key == keys::Backspace) {
@@ -240,19 +238,19 @@ void frmSkedFuncsWillow::TimeBox_KeyPress(TextBox& box, int limit, int& key) {
 
 void frmSkedFuncsWillow::TimeBox_LostFocus(TextBox& box) {
   if (box.Text().empty()) box.SetText("0");
-  if (box.Text() == "*") box.SetText("**");
+  if (box.Text() == "*") box.SetText(willow::kEvery);
   box.SetText(WithLeadingZero(box.Text()));
 }
 
-void frmSkedFuncsWillow::StepTime(std::string (*next)(const std::string& part, int limit)) {
-  const auto* focused = Form.FocusedControl();
-  if (focused == &txtHour) {
-    txtHour.SetText(next(txtHour.Text(), kHours));
-  } else if (focused == &txtMinute) {
-    txtMinute.SetText(next(txtMinute.Text(), kMinutes));
-  } else {
-    Form.Beep();
-  }
+void frmSkedFuncsWillow::StepTime(int by) {
+  auto* box = txtHour.HasFocus() ? &txtHour : txtMinute.HasFocus() ? &txtMinute : nullptr;
+  if (box == nullptr) return Form.Beep();
+  // "**" stands behind the last number and before 0.
+  const int every = box == &txtHour ? kHours : kMinutes;
+  const int next = (box->Text() == willow::kEvery ? every : ToInteger(NumericValue(box->Text()))) + by;
+  if (by > 0 && next > every) return box->SetText("00");
+  const bool isEvery = by > 0 ? next == every : next < 0;
+  box->SetText(isEvery ? willow::kEvery : TwoDigits(next));
 }
 
 // ---------------------------------------------------------------------------------------------- function code
@@ -269,22 +267,17 @@ void frmSkedFuncsWillow::FillFunctionCodes(std::string_view vSkedFunc) {
 void frmSkedFuncsWillow::cmbSkedCode_Change() {
   const auto text = cmbSkedCode.Text();
   const auto firstThree = Left(text, 3);
-  const bool tooLong = firstThree != text;
-  bool valid = text.empty();
-  if (!tooLong && IsNumeric(text)) {
-    const bool whole = text.size() == 3;
-    valid = !whole || willow::HasFunction(NumericValue(text), panelType_);
-    if (whole && valid) cmbSkedCode.SetListIndex(willow::FunctionRow(text, panelType_));
-  }
-  if (valid) {
-    // Of the selected row, if there is one: " 12" is the code 012.
-    lastValidCode_ = Left(cmbSkedCode.Text(), 3);
-  } else if (tooLong) {
-    cmbSkedCode.SetText(firstThree);
-  } else {
+  if (firstThree != text) return cmbSkedCode.SetText(firstThree);
+  const bool whole = IsNumeric(text) && text.size() == 3;
+  const int row = whole ? willow::FunctionRow(text, panelType_) : -1;
+  const bool valid = whole ? row != -1 : text.empty() || IsNumeric(text);
+  if (!valid) {
     cmbSkedCode.SetText(lastValidCode_);
-    Form.Beep();
+    return Form.Beep();
   }
+  if (whole) cmbSkedCode.SetListIndex(row);
+  // Of the selected row, if there is one: " 12" is the code 012.
+  lastValidCode_ = Left(cmbSkedCode.Text(), 3);
 }
 
 // ---------------------------------------------------------------------------------------------- OK

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,8 +27,12 @@ class frmSkedFuncsWillow {
   /// Without an object the days stay as they are.
   void DisplayDOW(const Value* vSkedData);
 
-  /// Whether the operator's `ViewLevel` reaches a level of a record; nothing where a record is missing.
-  [[nodiscard]] std::optional<bool> ViewLevelReaches(std::int16_t SecurityLevel::*level, std::string_view key) const;
+  struct Rights {
+    bool Visible;
+    bool Enabled;
+  };
+  /// What the operator's `ViewLevel` alone allows.
+  [[nodiscard]] Rights RightsBy(std::string_view key, Rights withoutRecord) const;
   /// Shows and enables a part of a sked that was chosen, as far as the operator's rights go.
   void ShowWithinRights(Frame& part, std::string_view key);
 
@@ -40,8 +43,8 @@ class frmSkedFuncsWillow {
 
   void TimeBox_KeyPress(TextBox& box, int limit, int& key);
   void TimeBox_LostFocus(TextBox& box);
-  /// Steps the box that has the focus, by the part of a time that `next` gives.
-  void StepTime(std::string (*next)(const std::string& part, int limit));
+  /// Steps the box that has the focus.
+  void StepTime(int by);
 
   void FillFunctionCodes(std::string_view vSkedFunc);
   void cmbSkedCode_Change();

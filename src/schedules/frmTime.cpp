@@ -10,11 +10,6 @@ namespace {
 constexpr int kMinutesPerHour = 60;
 constexpr std::int32_t kTimeNotConfirmed = 2;
 
-constexpr FaultKind Fault(std::string_view procedure) {
-  return {
-      .ModuleName = "frmTime", .ProcedureName = procedure, .OnlyWithFaultObject = false, .Shows = true, .Clears = true};
-}
-
 }  // namespace
 
 frmTime::frmTime() {
@@ -41,12 +36,12 @@ std::int32_t frmTime::Display(std::int16_t Index, Value& res) {
     res = TimeMinutes;
     return kConfirmed;
   };
-  steps.Report = [](const Failure& failure) { ReportFault(Fault("Display"), failure, ""); };
+  steps.Report = [](const Failure& failure) { ReportFault({"frmTime", "Display"}, failure, ""); };
   return RunDisplay(Form, steps);
 }
 
 void frmTime::Form_KeyDown(int& key) {
-  ReportFailure(Fault("Form_KeyDown"), [&] {
+  ReportFailure({"frmTime", "Form_KeyDown"}, [&] {
     if (key == keys::Up || key == keys::PageUp) {
       UpDown1_UpClick();
     } else if (key == keys::Down || key == keys::PageDown) {
@@ -59,39 +54,39 @@ void frmTime::Form_KeyDown(int& key) {
 }
 
 void frmTime::txtHour_GotFocus() {
-  ReportFailure(Fault("txtHour_GotFocus"), [&] { Enter(hour_); });
+  ReportFailure({"frmTime", "txtHour_GotFocus"}, [&] { Enter(hour_); });
 }
 
 void frmTime::txtHour_KeyPress(int& character) {
-  ReportFailure(Fault("txtHour_KeyPress"), [&] { TakeCharacter(hour_, character); });
+  ReportFailure({"frmTime", "txtHour_KeyPress"}, [&] { TakeCharacter(hour_, character); });
 }
 
 void frmTime::txtHour_LostFocus() {
-  ReportFailure(Fault("txtHour_LostFocus"), [&] { Leave(hour_); });
+  ReportFailure({"frmTime", "txtHour_LostFocus"}, [&] { Leave(hour_); });
 }
 
 void frmTime::txtMinute_GotFocus() {
-  ReportFailure(Fault("txtMinute_GotFocus"), [&] { Enter(minute_); });
+  ReportFailure({"frmTime", "txtMinute_GotFocus"}, [&] { Enter(minute_); });
 }
 
 void frmTime::txtMinute_KeyPress(int& character) {
-  ReportFailure(Fault("txtMinute_KeyPress"), [&] { TakeCharacter(minute_, character); });
+  ReportFailure({"frmTime", "txtMinute_KeyPress"}, [&] { TakeCharacter(minute_, character); });
 }
 
 void frmTime::txtMinute_LostFocus() {
-  ReportFailure(Fault("txtMinute_LostFocus"), [&] { Leave(minute_); });
+  ReportFailure({"frmTime", "txtMinute_LostFocus"}, [&] { Leave(minute_); });
 }
 
 void frmTime::UpDown1_UpClick() {
-  ReportFailure(Fault("UpDown1_UpClick"), [&] { Step(1); });
+  ReportFailure({"frmTime", "UpDown1_UpClick"}, [&] { Step(1); });
 }
 
 void frmTime::UpDown1_DownClick() {
-  ReportFailure(Fault("UpDown1_DownClick"), [&] { Step(-1); });
+  ReportFailure({"frmTime", "UpDown1_DownClick"}, [&] { Step(-1); });
 }
 
 void frmTime::cmdOK_Click() {
-  ReportFailure(Fault("cmdOK_Click"), [&] {
+  ReportFailure({"frmTime", "cmdOK_Click"}, [&] {
     TimeMinutes = ToInteger(kMinutesPerHour * NumericValue(txtHour.Text()) + NumericValue(txtMinute.Text()));
     Form.HideWith(ExitCode::OK);
   });
@@ -110,7 +105,7 @@ void frmTime::TakeCharacter(const Part& part, int& character) {
     const std::string digit(1, static_cast<char>(character));
     // A digit before the one that is there makes it the second one.
     const auto trial = box.SelStart() == 0 ? digit + box.Text() : box.Text() + digit;
-    if (NumericValue(trial) <= part.Limit) return;
+    if (NumericValue(trial) < part.Count) return;
   }
   character = 0;
   Form.Beep();
@@ -125,8 +120,7 @@ void frmTime::Leave(const Part& part) {
 void frmTime::Step(int by) {
   const auto* part = txtHour.HasFocus() ? &hour_ : txtMinute.HasFocus() ? &minute_ : nullptr;
   if (part == nullptr) return Form.Beep();
-  const int count = part->Limit + 1;
-  part->Box.SetText(TwoDigits((ToInteger(NumericValue(part->Box.Text())) + by + count) % count));
+  part->Box.SetText(TwoDigits((ToInteger(NumericValue(part->Box.Text())) + by + part->Count) % part->Count));
 }
 
 }  // namespace orlin

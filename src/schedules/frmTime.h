@@ -13,10 +13,10 @@ class frmTime {
   std::int32_t Display(std::int16_t Index, Value& res);
 
  private:
-  /// A box for a number from 0 to its limit, and what the status line says while it has the focus.
+  /// A box for so many numbers from 0 on, and what the status line says while it has the focus.
   struct Part {
     TextBox& Box;
-    int Limit;
+    int Count;
     std::int16_t Prompt;
   };
 
@@ -48,8 +48,8 @@ class frmTime {
   OKButton cmdOK{Form};
   CancelButton cmdCancel{Form};
 
-  const Part hour_{txtHour, 23, 1177};
-  const Part minute_{txtMinute, 59, 1178};
+  const Part hour_{txtHour, 24, 1177};
+  const Part minute_{txtMinute, 60, 1178};
   std::int16_t TimeMinutes = 0;
 };
 

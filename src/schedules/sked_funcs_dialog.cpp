@@ -9,49 +9,40 @@
 namespace orlin {
 namespace {
 
-/// The functions whose number is shown one higher than the byte.
-bool IsShownOneHigher(double code) { return code == 3 || code == 4; }
-
 /// Elements of value lists have their position as the key.
 template <class List>
 std::string NextKey(const List& list) {
   return std::to_string(list.Count() + 1);
 }
 
-std::size_t CountOf(const SkedItems& items, const SkedModel& model) {
-  if (&items == &kListA) return model.ItemsOfA;
-  if (&items == &kListD) return model.ItemsOfD;
-  if (&items == &kListH) return model.ItemsOfH;
-  return items.Count;
-}
-
-std::shared_ptr<clsListItems> ItemsOf(const SkedParam& param, const SkedModel& model) {
+std::shared_ptr<clsListItems> ItemsOf(const sked::Parameter& param, const sked::Model& model) {
   if (param.Items == nullptr) return nullptr;
   auto items = std::make_shared<clsListItems>();
-  for (std::size_t i = 0; i < CountOf(*param.Items, model); ++i) {
-    const auto text = GetLocalText(static_cast<std::int16_t>(param.Items->FirstText + static_cast<int>(i)));
-    items->Add(NextKey(*items), text, param.Items->Values[i]);
+  for (std::size_t i = 0; i < param.Items->CountOn(model); ++i) {
+    items->Add(NextKey(*items), GetLocalText(param.Items->FirstText + static_cast<int>(i)), param.Items->Values[i]);
   }
   return items;
 }
 
-std::shared_ptr<clsRanges> RangesOf(const SkedParam& param, const SkedModel& model) {
-  if (param.Choice != SkedChoice::Number && param.Choice != SkedChoice::NumberFromOne) return nullptr;
-  const auto& limits = param.Choice == SkedChoice::NumberFromOne ? model.Codes3And4 : model.Codes6And7;
+std::shared_ptr<clsRanges> RangesOf(sked::Choice choice, const sked::Model& model) {
+  if (choice != sked::Choice::Number && choice != sked::Choice::NumberFromOne) return nullptr;
+  const auto& numbers = choice == sked::Choice::NumberFromOne ? model.Codes3And4 : model.Codes6And7;
   auto ranges = std::make_shared<clsRanges>();
-  for (const auto& interval : {limits.First, limits.Second}) {
-    if (interval.Min <= interval.Max) ranges->Add(NextKey(*ranges), interval.Min, interval.Max);
+  for (const auto& range : {numbers.First, numbers.Second}) {
+    if (range.Max != 0) ranges->Add(NextKey(*ranges), range.Min, range.Max);
   }
   return ranges;
 }
 
-SkedParamKind KindOf(SkedChoice choice) {
-  if (choice == SkedChoice::Multi) return SkedParamKind::MultiList;
-  if (choice == SkedChoice::Single) return SkedParamKind::SingleList;
-  return SkedParamKind::NumberOrNone;
+SkedFuncRow::Kind KindOf(sked::Choice choice) {
+  if (choice == sked::Choice::Multi) return SkedFuncRow::Kind::MultiList;
+  if (choice == sked::Choice::Single) return SkedFuncRow::Kind::SingleList;
+  return SkedFuncRow::Kind::NumberOrNone;
 }
 
 void AddChoice(ListBox& list, const clsListItem& item) { list.AddItem(item.Item, ToLong(item.Value)); }
+
+// The byte is converted at each item: one that is no number fails there, behind the first item.
 
 /// Fills a list of many choices, marks those of the given byte and adds them to the row's value.
 void FillMultiList(ListBox& list, const clsListItems& items, const Value& given, std::int32_t& paramValue) {
@@ -84,7 +75,7 @@ std::int32_t MaskOf(const ListBox& list) {
 
 }  // namespace
 
-SkedFuncsDialog::SkedFuncsDialog(std::string_view name, const SkedFamily& family)
+SkedFuncsDialog::SkedFuncsDialog(std::string_view name, const sked::Family& family)
     : Form(name, 1612, kUsualLife), family_(family) {
   const auto silently = [this](void (SkedFuncsDialog::*handler)()) {
     return [this, handler] { SkipFailure([&] { (this->*handler)(); }); };
@@ -106,7 +97,11 @@ std::int32_t SkedFuncsDialog::Display(Value& Byte1, Value& Byte2, Value& Byte3, 
     SkedByte3 = Byte3;
     // Compared as a number of any size: where it is no code, the first function stands for it.
     const auto code = ToDouble(Byte1);
-    if (IsShownOneHigher(code)) SkedByte2 = ToDouble(Byte2) + 1;
+    const bool shownOneHigher = std::ranges::any_of(family_.Functions, [&](const auto& function) {
+      return function.Code == code && function.ParamChoice == sked::Choice::NumberFromOne;
+    });
+    // Rounded only where it is shown, like the bytes that come in.
+    if (shownOneHigher) SkedByte2 = ToDouble(Byte2) + 1;
     BuildFunctionTable();
     FillFunctionList();
     List1.SelectRow(family_.CodeIsRow ? ToLong(Byte1) : PositionOf(code));
@@ -123,32 +118,32 @@ std::int32_t SkedFuncsDialog::Display(Value& Byte1, Value& Byte2, Value& Byte3, 
 // ---------------------------------------------------------------------------------------------- table
 
 void SkedFuncsDialog::BuildFunctionTable() {
-  const auto& models = family_.Models;
-  const auto model =
-      std::find_if(models.begin(), models.end(), [&](const auto& known) { return known.PanelType == PanelType; });
-  if (model == models.end()) throw Failure(failures::InvalidCall);
+  const auto model = std::ranges::find(family_.Models, PanelType, &sked::Model::PanelType);
+  if (model == family_.Models.end()) throw Failure(failures::InvalidCall);
   for (const auto& function : family_.Functions) {
-    if (!model->MissingCodes.Holds(function.Code)) table_.push_back(BuildRow(function, *model));
+    if (function.Code <= model->LastCode || function.Code >= 28) table_.push_back(BuildRow(function, *model));
   }
 }
 
-SkedFuncRow SkedFuncsDialog::BuildRow(const SkedFunc& function, const SkedModel& model) {
+SkedFuncRow SkedFuncsDialog::BuildRow(const sked::Function& function, const sked::Model& model) {
   SkedFuncRow row;
   row.FuncCode = function.Code;
   row.FuncText = std::to_string(function.Code) + "  " + GetLocalText(function.Text);
-  row.ParamKind = KindOf(function.Param1.Choice);
-  row.Param1Ranges = RangesOf(function.Param1, model);
+  row.ParamKind = KindOf(function.ParamChoice);
+  row.Param1Ranges = RangesOf(function.ParamChoice, model);
   row.FillNumber = row.Param1Ranges != nullptr;
+  row.ShownOneHigher = function.ParamChoice == sked::Choice::NumberFromOne;
   row.Param1Items = ItemsOf(function.Param1, model);
   row.Param2Items = ItemsOf(function.Param2, model);
-  const bool multi = row.ParamKind == SkedParamKind::MultiList;
-  if (function.Param1.Choice != SkedChoice::None) {
-    row.Param1Control = row.FillNumber ? AnyControl(txtParameter1) : AnyControl(multi ? lstMSParam1 : lstParameter1);
+  const bool multi = row.ParamKind == SkedFuncRow::Kind::MultiList;
+  if (function.Param1.Caption != 0) {
+    row.Param1Control = multi ? lstMSParam1 : lstParameter1;
+    if (row.FillNumber) row.Param1Control = txtParameter1;
     row.Param1Visible = true;
     row.Param1Caption = GetLocalText(function.Param1.Caption);
   }
-  if (function.Param2.Choice != SkedChoice::None) {
-    row.Param2Control = AnyControl(multi ? lstMSParam2 : lstParameter2);
+  if (function.Param2.Caption != 0) {
+    row.Param2Control = multi ? lstMSParam2 : lstParameter2;
     row.Param2Visible = true;
     row.Param2Caption = GetLocalText(function.Param2.Caption);
   }
@@ -161,8 +156,7 @@ void SkedFuncsDialog::FillFunctionList() {
 }
 
 int SkedFuncsDialog::PositionOf(double code) const {
-  const auto row =
-      std::find_if(table_.begin(), table_.end(), [&](const auto& known) { return known.FuncCode == code; });
+  const auto row = std::ranges::find(table_, code, &SkedFuncRow::FuncCode);
   return row == table_.end() ? 0 : static_cast<int>(row - table_.begin());
 }
 
@@ -181,15 +175,15 @@ void SkedFuncsDialog::List1_Click() {
   Label1_2.SetCaption(GetLocalText(1714) + row.Param2Caption);
 
   switch (row.ParamKind) {
-    case SkedParamKind::MultiList:
+    case SkedFuncRow::Kind::MultiList:
       if (row.Param1Visible) FillMultiList(lstMSParam1, *row.Param1Items, SkedByte2, row.Param1Value);
       if (row.Param2Visible) FillMultiList(lstMSParam2, *row.Param2Items, SkedByte3, row.Param2Value);
       break;
-    case SkedParamKind::SingleList:
+    case SkedFuncRow::Kind::SingleList:
       if (row.Param1Visible) FillSingleList(lstParameter1, *row.Param1Items, SkedByte2);
       if (row.Param2Visible) FillSingleList(lstParameter2, *row.Param2Items, SkedByte3);
       break;
-    case SkedParamKind::NumberOrNone:
+    case SkedFuncRow::Kind::NumberOrNone:
       if (row.FillNumber && row.Param1Visible) txtParameter1.SetText(ToText(ToLong(SkedByte2)));
       break;
   }
@@ -226,7 +220,7 @@ bool SkedFuncsDialog::IsAcceptable(const std::string& number) {
 void SkedFuncsDialog::StoreNumber() {
   auto& row = SelectedRow();
   const std::int32_t number = ToByte(txtParameter1.Text());
-  row.Param1Value = IsShownOneHigher(row.FuncCode) ? number - 1 : number;
+  row.Param1Value = row.ShownOneHigher ? number - 1 : number;
 }
 
 void SkedFuncsDialog::cmdOK_Click() {
@@ -239,7 +233,7 @@ void SkedFuncsDialog::cmdOK_Click() {
     if (!EntryValid) return;
   }
   // A function without parameters takes what a number row has left in the box.
-  if (row.ParamKind == SkedParamKind::NumberOrNone && !txtParameter1.Text().empty()) StoreNumber();
+  if (row.ParamKind == SkedFuncRow::Kind::NumberOrNone && !txtParameter1.Text().empty()) StoreNumber();
   Form.HideWith(ExitCode::OK);
 }
 

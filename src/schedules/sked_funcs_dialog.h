@@ -15,11 +15,11 @@
 
 namespace orlin {
 
-/// What the parameters of a function are.
-enum class SkedParamKind : std::int16_t { SingleList = 0, NumberOrNone = 8, MultiList = 13 };
-
 /// One function as the dialog works with it: what it shows, and the bytes that the operator chose for it.
 struct SkedFuncRow {
+  /// What the parameters are.
+  enum class Kind : std::int16_t { SingleList = 0, NumberOrNone = 8, MultiList = 13 };
+
   std::int32_t FuncCode = 0;
   std::string FuncText;
   std::int32_t Param1Value = 0;
@@ -31,9 +31,11 @@ struct SkedFuncRow {
   bool Param1Visible = false;
   std::optional<AnyControl> Param2Control;
   bool Param2Visible = false;
-  SkedParamKind ParamKind = SkedParamKind::NumberOrNone;
+  Kind ParamKind = Kind::NumberOrNone;
   /// Whether the number box takes the given byte.
   bool FillNumber = false;
+  /// Whether the number box shows one more than the byte.
+  bool ShownOneHigher = false;
   std::string Param1Caption;
   std::string Param2Caption;
 };
@@ -49,12 +51,12 @@ class SkedFuncsDialog {
   std::int32_t Display(Value& Byte1, Value& Byte2, Value& Byte3, ePanelType panelType);
 
  protected:
-  SkedFuncsDialog(std::string_view name, const SkedFamily& family);
+  SkedFuncsDialog(std::string_view name, const sked::Family& family);
   ~SkedFuncsDialog() = default;
 
  private:
   void BuildFunctionTable();
-  [[nodiscard]] SkedFuncRow BuildRow(const SkedFunc& function, const SkedModel& model);
+  [[nodiscard]] SkedFuncRow BuildRow(const sked::Function& function, const sked::Model& model);
   void FillFunctionList();
   [[nodiscard]] int PositionOf(double code) const;
 
@@ -86,7 +88,7 @@ class SkedFuncsDialog {
   OKButton cmdOK{Form};
   CancelButton cmdCancel{Form};
 
-  const SkedFamily& family_;
+  const sked::Family& family_;
   std::vector<SkedFuncRow> table_;
   ePanelType PanelType{};
   Value SkedByte2;  // as it is shown

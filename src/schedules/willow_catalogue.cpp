@@ -127,15 +127,12 @@ std::vector<std::string> FunctionEntries(ePanelType panel) {
   return entries;
 }
 
-bool HasFunction(double code, ePanelType panel) {
-  return std::floor(code) == code && std::any_of(kFunctions.begin(), kFunctions.end(), [&](const auto& functions) {
-           return Has(panel, functions) && code >= functions.FirstCode && code <= functions.LastCode;
-         });
-}
-
 int FunctionRow(std::string_view code, ePanelType panel) {
   const double number = NumericValue(code);
-  if (!HasFunction(number, panel)) return -1;
+  const bool known = std::any_of(kFunctions.begin(), kFunctions.end(), [&](const auto& functions) {
+    return Has(panel, functions) && number >= functions.FirstCode && number <= functions.LastCode;
+  });
+  if (!known || std::floor(number) != number) return -1;
   const bool behindGap = number >= kFirstBehindGap && panel != ePanelType::WillowAce;
   return static_cast<int>(number) - 1 - (behindGap ? kGap : 0);
 }

@@ -13,9 +13,6 @@ namespace orlin::willow {
 /// What the panel can do, in code order: code, two blanks, text.
 [[nodiscard]] std::vector<std::string> FunctionEntries(ePanelType panel);
 
-/// Whether the panel has a function with that code.
-[[nodiscard]] bool HasFunction(double code, ePanelType panel);
-
 /// The row of a code in `FunctionEntries`, counted from 0, or -1 for a code that the panel lacks: its row by the number
 /// alone would be that of another function.
 [[nodiscard]] int FunctionRow(std::string_view code, ePanelType panel);

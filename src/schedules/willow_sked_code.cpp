@@ -8,8 +8,6 @@
 namespace orlin::willow {
 namespace {
 
-constexpr std::string_view kEvery = "**";
-
 // Row 0 is every month; February has its longest length in every year.
 constexpr std::array<int, 13> kDaysInMonth = {31, 31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 
@@ -17,11 +15,7 @@ bool IsNumber(const Value& value, double number) { return IsNumeric(value) && To
 
 std::int16_t DecodeDatePart(const std::string& part) { return part == kEvery ? 0 : ToInteger(NumericValue(part)); }
 
-std::string EncodeDatePart(int row) { return row == 0 ? std::string(kEvery) : TwoDigits(row); }
-
-int TimePartNumber(const std::string& part, int limit) {
-  return part == kEvery ? limit : ToInteger(NumericValue(part));
-}
+std::string EncodeDatePart(int row) { return row == 0 ? kEvery : TwoDigits(row); }
 
 }  // namespace
 
@@ -41,17 +35,6 @@ Time DecodeTime(const std::string& skedTime) {
 }
 
 std::string EncodeTime(const Time& time) { return WithLeadingZero(time.Hour) + ":" + WithLeadingZero(time.Minute); }
-
-std::string NextTimePart(const std::string& part, int limit) {
-  const int next = TimePartNumber(part, limit) + 1;
-  if (next < limit) return TwoDigits(next);
-  return next == limit ? std::string(kEvery) : "00";
-}
-
-std::string PreviousTimePart(const std::string& part, int limit) {
-  const int previous = TimePartNumber(part, limit) - 1;
-  return previous >= 0 ? TwoDigits(previous) : std::string(kEvery);
-}
 
 Date DecodeDate(const Value& skedData) {
   const auto* text = skedData.Get<std::string>();

@@ -21,17 +21,16 @@ enum class SkedType : std::int16_t { Disabled = 0, ByDate = 1, ByDayOfWeek = 2 }
 /// The number that the operator sees: the group of 16, counted from 1, and two digits for the entry in it.
 [[nodiscard]] std::string ShownNumber(std::int32_t skedNo);
 
-/// Two digits, or "**" for every hour or every minute.
+/// Every month or day, hour or minute.
+inline constexpr const char* kEvery = "**";
+
+/// Two digits, or `kEvery`.
 struct Time {
   std::string Hour = "00";
   std::string Minute = "00";
 };
 [[nodiscard]] Time DecodeTime(const std::string& skedTime);
 [[nodiscard]] std::string EncodeTime(const Time& time);
-
-/// The part of a time that follows or precedes another one: 00 to the number below the limit, then "**", then 00 again.
-[[nodiscard]] std::string NextTimePart(const std::string& part, int limit);
-[[nodiscard]] std::string PreviousTimePart(const std::string& part, int limit);
 
 /// Rows of the lists of months and days: the number of the month or day, or 0 for every one.
 struct Date {

@@ -27,7 +27,8 @@ using DuressFamily = std::array<std::string, 5>;
 
 /// How the verification of passcodes reports its failures. They are not shown: a timer may cause them each second.
 [[nodiscard]] constexpr FaultKind PasscodeFault(std::string_view procedureName) {
-  return {"frmVerifyPasscodes", procedureName, true, false, true};
+  return {
+      .ModuleName = "frmVerifyPasscodes", .ProcedureName = procedureName, .OnlyWithFaultObject = true, .Shows = false};
 }
 
 }  // namespace orlin

@@ -10,8 +10,6 @@
 namespace orlin {
 namespace {
 
-constexpr FaultKind kDisplayFault{"frmErrorSIA_Nova", "Display()", true, true, true};
-
 enum Column { kName, kArea, kPresentValue, kMin, kMax, kDesiredValue };
 struct GridColumn {
   std::int16_t Title;
@@ -26,10 +24,6 @@ constexpr std::array<GridColumn, 6> kColumns = {{
     {10706, 1600},
 }};
 
-// Rows of the parameter table whose desired values have a form of their own.
-constexpr std::size_t kExitDelay = 1;
-constexpr std::size_t kPointOrLetter = 4;
-constexpr std::size_t kEntryDelay = 5;
 constexpr std::string_view kLetters = "ABC";
 
 constexpr std::int32_t kKeepExisting = 1;
@@ -47,18 +41,17 @@ bool IsMultipleOfFive(const std::string& text) {
   }
 }
 
-/// Whether a desired value is not even written as the row of the table asks.
-bool HasBadFormat(const std::string& sText, std::size_t tableRow) {
-  switch (tableRow) {
-    case kPointOrLetter:
+bool HasBadFormat(const std::string& sText, SiaFormat format) {
+  switch (format) {
+    case SiaFormat::PointOrLetter:
       if (!sText.empty() && kLetters.find(UpperCase(sText.front())) != std::string_view::npos) return sText.size() > 1;
       return !IsNumeric(std::string_view(sText));
-    case kExitDelay:
-    case kEntryDelay:
+    case SiaFormat::ByFives:
       return !IsMultipleOfFive(sText);
-    default:
-      return false;
+    case SiaFormat::Any:
+      break;
   }
+  return false;
 }
 
 }  // namespace
@@ -92,8 +85,9 @@ std::int32_t frmErrorSIA_Nova::Display(const Value& vItemNo, Value& vValue, cons
   DisplaySteps steps;
   steps.Prepare = [&] {
     Form.KeepSecurityLevels(SecurityLevels);
-    ApplySecurityLevelsToAll(Form.SecurityLevels(),
-                             {grpErrorDetails, btnAcceptChanges, lblUserWarning, OptAccept, OptIgnore, vsFlexArray1});
+    ApplySecurityLevels(
+        Form.SecurityLevels(),
+        {{kEveryRecord, {grpErrorDetails, btnAcceptChanges, lblUserWarning, OptAccept, OptIgnore, vsFlexArray1}}});
     panelType_ = PanelType;
     throughComm_ = bThroughComm;
     InitParameterTable();
@@ -106,7 +100,7 @@ std::int32_t frmErrorSIA_Nova::Display(const Value& vItemNo, Value& vValue, cons
     return ReviewAction;
   };
   steps.Report = [](const Failure& failure) {
-    SkipFailure([&] { ReportFault(kDisplayFault, failure, failure.Description()); });
+    SkipFailure([&] { ReportFault({"frmErrorSIA_Nova", "Display()", true}, failure, failure.Description()); });
   };
   steps.FailureResult = 0;
   return RunDisplay(Form, steps);
@@ -115,14 +109,16 @@ std::int32_t frmErrorSIA_Nova::Display(const Value& vItemNo, Value& vValue, cons
 void frmErrorSIA_Nova::InitParameterTable() {
   Form.LoadCaptions();
   const auto forEachRow = [this](auto fill) {
-    for (std::size_t row = 1; row < parameters_.size(); ++row) fill(parameters_[row], SiaParameters()[row - 1]);
+    for (std::size_t row = 1; row < parameters_.size(); ++row) fill(parameters_[row], SiaParameters()[row]);
   };
   forEachRow([](auto& parameter, const auto& row) { parameter.ParameterName = GetLocalText(row.Name); });
   forEachRow([&](auto& parameter, const auto& row) { parameter.SIARangeMax = ContentFor(row.Max, panelType_); });
   forEachRow([&](auto& parameter, const auto& row) { parameter.SIARangeMin = ContentFor(row.Min, panelType_); });
-  forEachRow([&](auto& parameter, const auto& row) { parameter.DefaultVal = ContentFor(row.Default, panelType_); });
-  forEachRow([](auto& parameter, const auto& row) { parameter.AllowedCharacters = row.AllowedCharacters; });
-  forEachRow([](auto& parameter, const auto& row) { parameter.AllowedString = row.AllowedString; });
+  forEachRow([&](auto& parameter, const auto& row) {
+    parameter.DefaultVal = ContentFor(row.Default, panelType_);
+    parameter.AllowedCharacters = row.AllowedCharacters;
+    parameter.AllowedString = row.AllowedString;
+  });
 }
 
 void frmErrorSIA_Nova::ShowItems() {
@@ -137,8 +133,8 @@ std::string frmErrorSIA_Nova::RowText(std::int32_t index) {
   auto& presentValue = presentValues_.At(index);
   const auto row = SiaRowOf(itemNo);
   if (row == 0) return "";
-  presentValue = ShownPresentValue(SiaParameters()[row - 1], presentValue);
-  const auto area = AreaOf(SiaParameters()[row - 1], itemNo);
+  presentValue = ShownPresentValue(SiaParameters()[row], presentValue);
+  const auto area = AreaOf(SiaParameters()[row], itemNo);
   const auto& parameter = parameters_[row];
   return parameter.ParameterName + "\t" + (area == 0 ? "N/A" : std::to_string(area)) + "\t" + ToText(presentValue) +
          "\t" + ToText(parameter.SIARangeMin) + "\t" + ToText(parameter.SIARangeMax) + ToText(parameter.AllowedString) +
@@ -193,9 +189,9 @@ void frmErrorSIA_Nova::vsFlexArray1_AfterEdit(int row, int col) {
 }
 
 bool frmErrorSIA_Nova::IsWithinRange(const std::string& sText, int Row, int Col, double iMin, double iMax) {
-  const auto tableRow = GetItemNofromRowNo(Row);
-  const bool badFormat = HasBadFormat(sText, tableRow);
-  if (tableRow == kPointOrLetter) {
+  const auto format = SiaParameters()[GetItemNofromRowNo(Row)].Format;
+  const bool badFormat = HasBadFormat(sText, format);
+  if (format == SiaFormat::PointOrLetter) {
     std::string text = sText;
     std::transform(text.begin(), text.end(), text.begin(), UpperCase);
     vsFlexArray1.SetCellText(Row, Col, text);
@@ -205,7 +201,7 @@ bool frmErrorSIA_Nova::IsWithinRange(const std::string& sText, int Row, int Col,
     vsFlexArray1.SetCellText(Row, Col, PrevCellValue);
     return true;
   }
-  if (!IsNumeric(std::string_view(sText))) return tableRow == kPointOrLetter;
+  if (!IsNumeric(std::string_view(sText))) return format == SiaFormat::PointOrLetter;
   const double value = ToDouble(sText);
   return (iMin == kNoBound || value >= iMin) && (iMax == kNoBound || value <= iMax);
 }

@@ -55,7 +55,7 @@ class frmErrorSIA_Nova {
   Button btnCancel{Form, "btnCancel", "Cancel"};
 
   // The kinds of parameter, each at its row of the table; the first record stays empty.
-  std::array<clsErrorMessageNova, kSiaParameterCount + 1> parameters_;
+  std::array<clsErrorMessageNova, kSiaRows> parameters_;
   std::int16_t panelType_ = 0;
   bool throughComm_ = false;
   // The items under review: their numbers, and their present values as they are shown.

@@ -80,25 +80,18 @@ std::int32_t frmVerifyPasscodes::Display(Value& vresult, Value& vpresent, std::i
     ThroughSIA = bThroughSIA;
     ApplicationType = ToInteger(GetRegSetting(std::string(kAppName), "Installation", "APPLICATION_TYPE", ""));
     LoadPasscodeGrid();
-    if (!SecurityLevels.IsEmpty()) HideFromUnauthorised();
+    if (SecurityLevels.IsEmpty()) return;
+    HideBySecurityLevels(
+        Form.SecurityLevels(),
+        {{kEveryRecord, {cmdOK, fa, lstExisting, lstMatch, lstUnusable, lblCaption, optSave, optPlZeroSsave}}});
   };
   steps.Conclude = [&] {
     bChangedStatus = static_cast<std::int16_t>(outcome_);
     CopyBack(AsArray(vresult), AsArray(vpresent));
+    // On every outcome: `bChangedStatus` tells which.
     return kConfirmed;
   };
   return RunDisplay(Form, steps);
-}
-
-// A missing right to edit hides like a missing right to view.
-void frmVerifyPasscodes::HideFromUnauthorised() {
-  const auto& levels = Form.SecurityLevels();
-  const std::vector<AnyControl> secured = {cmdOK,       fa,         lstExisting, lstMatch,
-                                           lstUnusable, lblCaption, optSave,     optPlZeroSsave};
-  for (const auto& record : levels) {
-    if (MayView(levels, record.Name) && MayEdit(levels, record.Name)) continue;
-    for (const auto& control : secured) control.SetVisible(false);
-  }
 }
 
 void frmVerifyPasscodes::CopyBack(Array& result, Array& present) const {

@@ -19,13 +19,12 @@ class frmVerifyPasscodes {
                        const Value& SecurityLevels);
 
  private:
-  /// What `bChangedStatus` tells.
+  /// What `bChangedStatus` tells, in codes other than those of `ExitCode`.
   enum class Outcome : std::int16_t { Cancelled = 0, SaveCorrected = 1, DisableLength = 2 };
   static constexpr int kUserCount = 250;
 
   void Form_Load();
   void LoadCaptions();
-  void HideFromUnauthorised();
   void CopyBack(Array& result, Array& present) const;
 
   void LoadPasscodeGrid();
@@ -45,6 +44,7 @@ class frmVerifyPasscodes {
   void fa_KeyPressEdit(int& key);
   void fa_AfterEdit(int row, int col);
   void TakeCorrection(int row, int col);
+  /// A failure in it is one of the notification, and shown as such.
   void Refuse(int row, int col, std::int16_t text);
   void Accept(int row, int col, const std::string& code);
   /// Runs a notification of the grid; its failure is shown, followed by the given words.

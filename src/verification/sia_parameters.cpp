@@ -9,6 +9,8 @@
 namespace orlin {
 namespace {
 
+using enum SiaFormat;
+
 constexpr std::int16_t kYesText = 10697;
 constexpr std::int16_t kNoText = 10707;
 
@@ -32,13 +34,14 @@ constexpr SiaPresentValue kAsLetter{0, true};
 // The texts of the catalogue for yes and no stand for 1 and 0 (see `StoredForm`). The area of row 5 counts from 0,
 // which is the whole account.
 // clang-format off
-constexpr std::array<SiaParameter, kSiaParameterCount> kParameters = {{
-    // key name   min     max        allowed string default allowed characters area            present value
-    {29,   10686, 45,     255,       kByFives,      60,     kDigits,           SiaArea{29, 1}, kAsPassed},
+constexpr std::array<SiaParameter, kSiaRows> kParameters = {{
+    // key name   min     max        allowed string default allowed characters area            present    format
+    {},
+    {29,   10686, 45,     255,       kByFives,      60,     kDigits,           SiaArea{29, 1}, kAsPassed, ByFives},
     {27,   10687, 6,      90,        kNone,         6,      kDigits,           SiaArea{27, 1}, kAsPassed},
     {7,    10688, 3,      3,         kNone,         3,      kDigits,           kNoArea,        kAsPassed},
-    {37,   10689, 1,      kPanelMax, " A,B,C",      "A",    "1234567890ABC",   SiaArea{37, 1}, kAsPassed},
-    {22,   10690, 30,     240,       kByFives,      30,     kDigits,           SiaArea{0, 0},  kAsPassed},
+    {37,   10689, 1,      kPanelMax, " A,B,C",      "A",    "1234567890ABC",   SiaArea{37, 1}, kAsPassed, PointOrLetter},
+    {22,   10690, 30,     240,       kByFives,      30,     kDigits,           SiaArea{0, 0},  kAsPassed, ByFives},
     {54,   10691, 15,     45,        kNone,         30,     kDigits,           kNoArea,        kAsPassed},
     {53,   10692, 1,      2,         kNone,         1,      kDigits,           kNoArea,        kAsPassed},
     {65,   10693, kYes,   kYes,      kNone,         kYes,   kNone,             SiaArea{63, 1}, kAsNo},
@@ -55,12 +58,12 @@ constexpr std::array<SiaParameter, kSiaParameterCount> kParameters = {{
 
 }  // namespace
 
-const std::array<SiaParameter, kSiaParameterCount>& SiaParameters() noexcept { return kParameters; }
+const std::array<SiaParameter, kSiaRows>& SiaParameters() noexcept { return kParameters; }
 
 std::size_t SiaRowOf(std::int32_t itemNo) noexcept {
-  const auto found = std::find_if(kParameters.begin(), kParameters.end(),
-                                  [&](const auto& parameter) { return parameter.Key == itemNo % 100; });
-  return found == kParameters.end() ? 0 : static_cast<std::size_t>(found - kParameters.begin()) + 1;
+  // Row 0 has the key 0.
+  const auto found = std::ranges::find(kParameters, itemNo % 100, &SiaParameter::Key);
+  return found == kParameters.end() ? 0 : static_cast<std::size_t>(found - kParameters.begin());
 }
 
 std::int32_t AreaOf(const SiaParameter& parameter, std::int32_t itemNo) {

@@ -34,6 +34,9 @@ struct SiaPresentValue {
   bool AsLetter = false;        ///< 1 and 2 as "E" and "P"
 };
 
+/// The form in which the desired value of an item is written.
+enum class SiaFormat { Any, ByFives, PointOrLetter };
+
 /// One row of the table.
 struct SiaParameter {
   std::int16_t Key;
@@ -45,12 +48,12 @@ struct SiaParameter {
   std::string_view AllowedCharacters;
   std::optional<SiaArea> Area;
   SiaPresentValue PresentValue;
+  SiaFormat Format = SiaFormat::Any;
 };
 
-inline constexpr std::size_t kSiaParameterCount = 16;
-
-/// The rows 1 to 16, at the indexes 0 to 15.
-[[nodiscard]] const std::array<SiaParameter, kSiaParameterCount>& SiaParameters() noexcept;
+inline constexpr std::size_t kSiaRows = 17;
+/// The rows 1 to 16; the row 0 is that of no parameter.
+[[nodiscard]] const std::array<SiaParameter, kSiaRows>& SiaParameters() noexcept;
 
 /// The row, 1 to 16, of an item number, which is the key of its row + 100 x the instance; 0 where no row has the key.
 [[nodiscard]] std::size_t SiaRowOf(std::int32_t itemNo) noexcept;

@@ -28,7 +28,7 @@ std::int32_t frmWirelessSensorSensitivity::Display(std::int16_t iOption, Value& 
       FillType2();
       cmbType2.SelectRow(ToInteger(vValue));
     }
-    ApplySecurityLevelsToAll(Form.SecurityLevels(), {lblOptions, cmbType1, cmbType2});
+    ApplySecurityLevels(Form.SecurityLevels(), {{kEveryRecord, {lblOptions, cmbType1, cmbType2}}});
   };
   steps.Encode = [&] {
     if (usesType1) {

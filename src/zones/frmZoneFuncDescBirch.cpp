@@ -45,7 +45,7 @@ std::int32_t frmZoneFuncDescBirch::Display(const Value& vName, Value& vRetVal, V
     } else {
       ChkAlarmVerified.SetValue(iZoneAlarmVerify == 0 ? 0 : 1);
     }
-    ApplySecurityLevelsToAll(Form.SecurityLevels(), {lblZoneFuncDesc, cmbZoneFunc});
+    ApplySecurityLevels(Form.SecurityLevels(), {{kEveryRecord, {lblZoneFuncDesc, cmbZoneFunc}}});
     Form.SetCaption("Edit " + ToText(vName));
   };
   steps.Encode = [&] {

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "frame/classes/late_members.h"
-#include "frame/classes/live_objects.h"
 #include "frame/values/conversions.h"
 
 namespace orlin {

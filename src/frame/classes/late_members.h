@@ -14,6 +14,9 @@
 
 namespace orlin {
 
+/// Whether anybody still holds an object that can be called by name.
+[[nodiscard]] bool AnyLiveObject() noexcept;
+
 /// The tables by which a class answers to names.
 struct LateMembers {
   struct Property {

@@ -42,29 +42,23 @@ SecurityLevelsPtr AsSecurityLevels(const Value& value) {
 
 namespace {
 
-void Restrict(const SecurityLevels& levels, const SecurityLevel& record, const std::vector<AnyControl>& controls) {
-  const auto& authority = levels.Item(kAuthorityLevel);
-  for (const auto& control : controls) {
-    if (authority.ViewLevel < record.ViewLevel) control.SetVisible(false);
-    if (authority.EditLevel < record.EditLevel) control.SetEnabled(false);
-  }
-}
-
 const std::vector<AnyControl>& ControlsOf(std::string_view recordName, const std::vector<SecuredPart>& parts) {
   static const std::vector<AnyControl> none;
-  const auto part =
-      std::find_if(parts.begin(), parts.end(), [&](const auto& known) { return known.RecordName == recordName; });
+  const auto part = std::ranges::find_if(
+      parts, [&](const auto& known) { return known.RecordName == recordName || known.RecordName == kEveryRecord; });
   return part == parts.end() ? none : part->Controls;
 }
 
 }  // namespace
 
 void ApplySecurityLevels(const SecurityLevels& levels, const std::vector<SecuredPart>& parts) {
-  for (const auto& record : levels) Restrict(levels, record, ControlsOf(record.Name, parts));
-}
-
-void ApplySecurityLevelsToAll(const SecurityLevels& levels, const std::vector<AnyControl>& controls) {
-  for (const auto& record : levels) Restrict(levels, record, controls);
+  for (const auto& record : levels) {
+    const auto& authority = levels.Item(kAuthorityLevel);
+    for (const auto& control : ControlsOf(record.Name, parts)) {
+      if (authority.ViewLevel < record.ViewLevel) control.SetVisible(false);
+      if (authority.EditLevel < record.EditLevel) control.SetEnabled(false);
+    }
+  }
 }
 
 void HideBySecurityLevels(const SecurityLevels& levels, const std::vector<SecuredPart>& parts) {

@@ -19,6 +19,9 @@ inline constexpr std::string_view kAuthorityLevel = "AuthorityLevel";
 /// The collection in an argument of `Display`. `Failure` 424 for a value that is no object, 13 for another object.
 [[nodiscard]] SecurityLevelsPtr AsSecurityLevels(const Value& value);
 
+/// The name of a part that every record stands for.
+inline constexpr std::string_view kEveryRecord;
+
 /// The controls that a record of the collection stands for. Names match exactly.
 struct SecuredPart {
   std::string_view RecordName;
@@ -28,9 +31,6 @@ struct SecuredPart {
 /// Walks the collection and hides and disables the parts that the operator may not see or change. An empty collection
 /// needs no record "AuthorityLevel"; in any other its lack is `Failure` 5.
 void ApplySecurityLevels(const SecurityLevels& levels, const std::vector<SecuredPart>& parts);
-
-/// The same in dialogs where every record stands for the same controls, whatever its name.
-void ApplySecurityLevelsToAll(const SecurityLevels& levels, const std::vector<AnyControl>& controls);
 
 /// The walk of the dialogs that hide a part on either level and disable none.
 void HideBySecurityLevels(const SecurityLevels& levels, const std::vector<SecuredPart>& parts);

@@ -53,40 +53,30 @@ void ReportFault(const FaultKind& kind, const Failure& failure, const std::strin
   if (kind.Clears) faultObject->Clear();
 }
 
-std::string GetLocalText(std::int16_t id) {
+std::string GetLocalText(int id) {
   try {
     auto& catalogue = Services().Catalogue;
     if (catalogue == nullptr) catalogue = Create<LocalTextComponent>("LocalText.clsLocalText");
-    return catalogue->GetLocalTextBASE(id);
+    return catalogue->GetLocalTextBASE(static_cast<std::int16_t>(id));
   } catch (const Failure& failure) {
     ReportFault(kGetLocalTextFault, failure, "");
     return {};
   }
 }
 
-std::string GetLocalText(std::int16_t id, const std::string& sName, const std::string& sValue) {
+std::string GetLocalText(int id, const std::string& sName, const std::string& sValue) {
   return ReplaceVariable(GetLocalText(id), sName, sValue);
 }
 
 std::string ReplaceVariable(const std::string& sText, const std::string& sName, const std::string& sValue) {
-  return ReplaceVariableFor("modGeneral", sText, sName, sValue);
-}
-
-std::string ReplaceVariableFor(std::string_view moduleName, const std::string& sText, const std::string& sName,
-                               const std::string& sValue) {
-  try {
-    const std::string marker = "%" + sName + "%";
-    const bool once = ComesBack(sName, sValue);
-    std::string text = sText;
-    for (auto at = text.find(marker); at != std::string::npos;) {
-      text.replace(at, marker.size(), sValue);
-      at = text.find(marker, once ? at + sValue.size() : 0);
-    }
-    return text;
-  } catch (const Failure& failure) {
-    ReportFault({moduleName, "ReplaceVariable()", false, false, true}, failure, "");
-    return sText;
+  const std::string marker = "%" + sName + "%";
+  const bool once = ComesBack(sName, sValue);
+  std::string text = sText;
+  for (auto at = text.find(marker); at != std::string::npos;) {
+    text.replace(at, marker.size(), sValue);
+    at = text.find(marker, once ? at + sValue.size() : 0);
   }
+  return text;
 }
 
 std::int32_t InitApplicationVariables() {

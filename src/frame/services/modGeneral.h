@@ -12,10 +12,10 @@ namespace orlin {
 inline constexpr std::string_view kAppName = "Tolmar";
 
 /// The text with that catalogue number, or an empty text. Creates the catalogue object where there is none.
-[[nodiscard]] std::string GetLocalText(std::int16_t id);
+[[nodiscard]] std::string GetLocalText(int id);
 
 /// The same with the variable %sName% of the text replaced.
-[[nodiscard]] std::string GetLocalText(std::int16_t id, const std::string& sName, const std::string& sValue);
+[[nodiscard]] std::string GetLocalText(int id, const std::string& sName, const std::string& sValue);
 
 /// The text with every marker %sName% replaced, also one that a value makes with the text beside it; a value that
 /// would bring its marker forth without end goes in once for each marker of the text. Upper and lower case differ; a
@@ -30,9 +30,9 @@ inline constexpr std::string_view kAppName = "Tolmar";
 struct FaultKind {
   std::string_view ModuleName;
   std::string_view ProcedureName;
-  bool OnlyWithFaultObject;  ///< else the lack of the fault object is a failure of its own
-  bool Shows;
-  bool Clears;
+  bool OnlyWithFaultObject = false;  ///< else the lack of the fault object is a failure of its own
+  bool Shows = true;
+  bool Clears = true;
 };
 
 /// Reports a failure to the fault object, which logs it.
@@ -48,9 +48,5 @@ void ReportFailure(const FaultKind& kind, Statement&& statement) {
     ReportFault(kind, failure, "");
   }
 }
-
-/// `ReplaceVariable` for the module that is given as the reporter of its failures.
-[[nodiscard]] std::string ReplaceVariableFor(std::string_view moduleName, const std::string& sText,
-                                             const std::string& sName, const std::string& sValue);
 
 }  // namespace orlin

@@ -26,10 +26,6 @@ constexpr const char* kUserID = "OrlinCustomDialogs";
 
 std::string Setting(const std::string& name) { return GetRegSetting(std::string(kAppName), "Setup", name, ""); }
 
-std::string PathMessage(std::int16_t id, const std::string& path) {
-  return ReplaceVariableFor("modStoreObj", GetLocalText(id), "DB_PATH", path);
-}
-
 bool OpensOnTrial(const std::string& path) {
   DatabasePtr database;
   SkipFailure(
@@ -53,12 +49,12 @@ void OpenFileDatabase(const std::string& sListName, DatabasePtr& db, bool bCheck
   auto& store = Store();
   const auto path = store.DBDRV() + ":" + store.DBDIR() + store.DBNAME();
   if (bCheckFirst && !OpensOnTrial(path)) {
-    sMessage = PathMessage(1082, path);
+    sMessage = GetLocalText(1082, "DB_PATH", path);
     throw Failure(failures::CannotOpenDatabase);
   }
   store.SetPassword(Services().FixedPassword);
   const auto result = store.DOPEN(sListName, 0, db);
-  if (result != 0 && FileIsMissing(path)) sMessage = PathMessage(1084, path);
+  if (result != 0 && FileIsMissing(path)) sMessage = GetLocalText(1084, "DB_PATH", path);
   RaiseResult(result);
 }
 
@@ -116,7 +112,7 @@ std::int32_t OpenSecureDB(const std::string& sListName, DatabasePtr& db, bool bC
     } else if (SameName(type, "ODBC")) {
       OpenOdbcDatabase(sListName, db);
     } else {
-      sMessage = PathMessage(1082, "");
+      sMessage = GetLocalText(1082, "DB_PATH", "");
       throw Failure(failures::CannotOpenDatabase);
     }
     return 0;

@@ -8,7 +8,8 @@
 namespace orlin {
 
 /// Runs each statement in turn; one that fails ends there, and the next one runs. For routines that carry on past a
-/// failure with the next statement.
+/// failure with the next statement: there what can fail stands in it (texts, conversions, rows), and a handler that
+/// a failure ends is wrapped as a whole where it is wired.
 template <class... Statements>
 void SkipFailure(Statements&&... statements) {
   const auto run = [](auto& statement) {
