@@ -4,24 +4,9 @@
 
 #include "OrlinCustomDialogs/host/keys.h"
 
-#include "script/text_literal.h"
-
 namespace orlin {
 
-QString Shown(std::string_view text) {
-  if (CharactersOf(text)) return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-  QString shown;
-  while (!text.empty()) {
-    // A character of UTF-8 has four bytes at most.
-    std::size_t bytes = 1;
-    while (bytes <= 4 && bytes <= text.size() && !CharactersOf(text.substr(0, bytes))) ++bytes;
-    const bool found = bytes <= 4 && bytes <= text.size();
-    shown +=
-        found ? QString::fromUtf8(text.data(), static_cast<qsizetype>(bytes)) : QString(QChar::ReplacementCharacter);
-    text.remove_prefix(found ? bytes : 1);
-  }
-  return shown;
-}
+QString Shown(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
 std::string Given(const QString& text) { return text.toStdString(); }
 
