@@ -4,11 +4,10 @@
 
 #include <benchmark/benchmark.h>
 
+#include "OrlinCustomDialogs/hosts/script/script_host.h"
+#include "OrlinCustomDialogs/platform/standard_platform.h"
 #include "OrlinCustomDialogs/public_classes.h"
 #include "OrlinCustomDialogs/security_levels.h"
-
-#include "script/script_host.h"
-#include "standard_platform.h"
 
 // One scripted `Display` inside a process: an operator picks a row and presses OK.
 

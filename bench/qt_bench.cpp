@@ -23,11 +23,12 @@
 #include <string>
 #include <vector>
 
+#include "OrlinCustomDialogs/platform/standard_platform.h"
+
 #include "app/account/account.h"
 #include "app/calls/installed_platform.h"
 #include "qt/dialog_window.h"
 #include "qt/texts.h"
-#include "standard_platform.h"
 #include "window_system/open_windows.h"
 
 // From `Display` to the first paint, for every editor of the example account, against a bare dialog of Qt with the same

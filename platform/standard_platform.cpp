@@ -1,9 +1,10 @@
-#include "standard_platform.h"
+#include "OrlinCustomDialogs/platform/standard_platform.h"
 
 #include "bits/bits.h"
 #include "catalogue/text_catalogue.h"
 #include "cipher/ccrypt.h"
 #include "clock/locale_clock.h"
+#include "faultlog/fault_log.h"
 #include "settings/registry_file_settings.h"
 #include "store/data_list.h"
 #include "store/drive_paths.h"

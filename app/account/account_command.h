@@ -3,7 +3,8 @@
 #include <optional>
 #include <string>
 
-#include "standard_platform.h"
+#include "OrlinCustomDialogs/platform/standard_platform.h"
+
 #include "window_system/window_system.h"
 
 namespace orlin {

@@ -9,10 +9,10 @@
 
 #include "OrlinCustomDialogs/components.h"
 #include "OrlinCustomDialogs/platform.h"
+#include "OrlinCustomDialogs/platform/standard_platform.h"
 
 #include "app/account/account.h"
 #include "app/description/describer.h"
-#include "standard_platform.h"
 #include "window_system/window_system.h"
 
 namespace orlin {

@@ -7,12 +7,13 @@
 #include <system_error>
 #include <utility>
 
+#include "OrlinCustomDialogs/hosts/script/script_host.h"
+#include "OrlinCustomDialogs/hosts/script/trace.h"
+
 #include "app/calls/arguments.h"
 #include "app/calls/installed_platform.h"
 #include "app/usage/status.h"
 #include "app/usage/usage_error.h"
-#include "script/script_host.h"
-#include "script/trace.h"
 
 namespace orlin {
 namespace {

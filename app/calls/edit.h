@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
+#include "OrlinCustomDialogs/hosts/script/script.h"
+#include "OrlinCustomDialogs/platform/standard_platform.h"
 #include "OrlinCustomDialogs/public_classes.h"
 
 #include "app/calls/call.h"
-#include "script/script.h"
-#include "standard_platform.h"
 #include "window_system/window_system.h"
 
 namespace orlin {

@@ -5,8 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "OrlinCustomDialogs/platform/standard_platform.h"
+
 #include "app/calls/call.h"
-#include "standard_platform.h"
 
 namespace orlin {
 

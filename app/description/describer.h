@@ -3,13 +3,13 @@
 #include <memory>
 #include <vector>
 
+#include "OrlinCustomDialogs/platform/standard_platform.h"
 #include "OrlinCustomDialogs/public_classes.h"
 #include "OrlinCustomDialogs/value.h"
 
 #include "app/calls/call.h"
 #include "app/calls/installed_platform.h"
 #include "app/description/description.h"
-#include "standard_platform.h"
 
 namespace orlin {
 

@@ -1,4 +1,4 @@
-#include "qt/qt_host.h"
+#include "OrlinCustomDialogs/hosts/qt/qt_host.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "OrlinCustomDialogs/hosts/script/operator.h"
+
 #include "qt/dialog_window.h"
-#include "script/operator.h"
 
 namespace orlin {
 

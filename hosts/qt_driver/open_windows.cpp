@@ -6,7 +6,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "qt/qt_host.h"
+#include "OrlinCustomDialogs/hosts/qt/qt_host.h"
+
 #include "qt_driver/pictures.h"
 #include "qt_driver/scripted_windows.h"
 #include "qt_driver/table_window.h"

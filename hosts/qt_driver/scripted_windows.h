@@ -3,10 +3,10 @@
 #include <vector>
 
 #include "OrlinCustomDialogs/host/dialog_host.h"
+#include "OrlinCustomDialogs/hosts/script/player.h"
+#include "OrlinCustomDialogs/hosts/script/trace.h"
 
 #include "qt_driver/hands.h"
-#include "script/player.h"
-#include "script/trace.h"
 
 namespace orlin {
 

@@ -1,4 +1,4 @@
-#include "script/operator.h"
+#include "OrlinCustomDialogs/hosts/script/operator.h"
 
 #include <limits>
 #include <string>

@@ -1,4 +1,4 @@
-#include "script/player.h"
+#include "OrlinCustomDialogs/hosts/script/player.h"
 
 #include <utility>
 #include <variant>

@@ -1,4 +1,4 @@
-#include "script/trace.h"
+#include "OrlinCustomDialogs/hosts/script/trace.h"
 
 #include <nlohmann/json.hpp>
 

@@ -9,9 +9,8 @@
 #include <vector>
 
 #include "OrlinCustomDialogs/host/dialog_host.h"
-
-#include "script/script.h"
-#include "script/trace.h"
+#include "OrlinCustomDialogs/hosts/script/script.h"
+#include "OrlinCustomDialogs/hosts/script/trace.h"
 
 namespace orlin {
 

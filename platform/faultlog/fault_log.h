@@ -7,19 +7,11 @@
 
 #include "OrlinCustomDialogs/components.h"
 #include "OrlinCustomDialogs/host/dialog_host.h"
+#include "OrlinCustomDialogs/platform/logged_fault.h"
 
 #include "faultlog/fault_file.h"
 
 namespace orlin {
-
-/// A fault as it went to the log.
-struct LoggedFault {
-  std::int32_t Number = 0;
-  std::string Module;
-  std::string Procedure;
-  std::string AdditionalText;
-  bool Shown = false;  ///< the operator has been shown it
-};
 
 /// What the fault objects of a program share.
 struct FaultLogOptions {

@@ -2,17 +2,12 @@
 
 #include <cstddef>
 #include <filesystem>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
-namespace orlin {
+#include "OrlinCustomDialogs/platform/platform_error.h"
 
-/// What is wrong with a file or an option that the user named: one plain line for him.
-class PlatformError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
+namespace orlin {
 
 /// A text file, line by line. Lines end with LF or CR LF, which are not part of them; a byte order mark of UTF-8 in
 /// front of the first is skipped.

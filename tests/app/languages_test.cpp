@@ -9,11 +9,12 @@
 
 #include <gtest/gtest.h>
 
+#include "OrlinCustomDialogs/platform/standard_platform.h"
+
 #include "app/account/account.h"
 #include "app/calls/arguments.h"
 #include "app/calls/installed_platform.h"
 #include "catalogue/text_catalogue.h"
-#include "standard_platform.h"
 #include "support/temporary_folder.h"
 
 // What each file of catalogue/ owes to the dialogs. The texts of a language are looked at in the dialogs themselves, in

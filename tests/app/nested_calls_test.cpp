@@ -8,11 +8,12 @@
 
 #include <gtest/gtest.h>
 
+#include "OrlinCustomDialogs/hosts/script/script_host.h"
+#include "OrlinCustomDialogs/platform/standard_platform.h"
+
 #include "app/account/account.h"
 #include "app/calls/call.h"
 #include "app/calls/installed_platform.h"
-#include "script/script_host.h"
-#include "standard_platform.h"
 #include "support/temporary_folder.h"
 #include "support/windows_of_tests.h"
 

@@ -1,4 +1,4 @@
-#include "script/script_host.h"
+#include "OrlinCustomDialogs/hosts/script/script_host.h"
 
 #include <memory>
 #include <sstream>

@@ -1,4 +1,4 @@
-#include "script/script.h"
+#include "OrlinCustomDialogs/hosts/script/script.h"
 
 #include <functional>
 #include <string>

@@ -1,4 +1,4 @@
-#include "standard_platform.h"
+#include "OrlinCustomDialogs/platform/standard_platform.h"
 
 #include "OrlinCustomDialogs/zones.h"
 

@@ -27,6 +27,7 @@
 #include <gtest/gtest.h>
 
 #include "OrlinCustomDialogs/host/form.h"
+#include "OrlinCustomDialogs/hosts/qt/qt_host.h"
 #include "OrlinCustomDialogs/platform.h"
 #include "OrlinCustomDialogs/zones.h"
 
@@ -34,7 +35,6 @@
 #include "qt/colours.h"
 #include "qt/dialog_window.h"
 #include "qt/key_events.h"
-#include "qt/qt_host.h"
 
 namespace orlin::testing {
 namespace {

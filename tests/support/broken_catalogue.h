@@ -2,9 +2,10 @@
 
 #include <memory>
 
+#include "OrlinCustomDialogs/platform/standard_platform.h"
+
 #include "catalogue/text_catalogue.h"
 #include "frame/services/services.h"
-#include "standard_platform.h"
 #include "support/frame_fixture.h"
 #include "support/temporary_folder.h"
 

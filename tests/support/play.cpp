@@ -2,12 +2,12 @@
 #include <sstream>
 #include <utility>
 
+#include "OrlinCustomDialogs/hosts/script/script.h"
 #include "OrlinCustomDialogs/public_classes.h"
 
 #include "app/calls/arguments.h"
 #include "app/calls/edit.h"
 #include "catalogue/text_catalogue.h"
-#include "script/script.h"
 #include "support/dialog_test.h"
 #include "support/temporary_folder.h"
 #include "support/windows_of_tests.h"

@@ -6,10 +6,9 @@
 #include <vector>
 
 #include "OrlinCustomDialogs/host/dialog_host.h"
-
-#include "script/operator.h"
-#include "script/script.h"
-#include "script/trace.h"
+#include "OrlinCustomDialogs/hosts/script/operator.h"
+#include "OrlinCustomDialogs/hosts/script/script.h"
+#include "OrlinCustomDialogs/hosts/script/trace.h"
 
 namespace orlin {
 

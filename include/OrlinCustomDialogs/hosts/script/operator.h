@@ -1,8 +1,7 @@
 #pragma once
 
 #include "OrlinCustomDialogs/host/controls.h"
-
-#include "script/script.h"
+#include "OrlinCustomDialogs/hosts/script/script.h"
 
 namespace orlin {
 

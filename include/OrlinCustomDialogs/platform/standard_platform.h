@@ -7,21 +7,22 @@
 #include <string>
 
 #include "OrlinCustomDialogs/platform.h"
-
-#include "faultlog/fault_log.h"
-#include "files/text_file.h"
+#include "OrlinCustomDialogs/platform/logged_fault.h"
+#include "OrlinCustomDialogs/platform/platform_error.h"
 
 namespace orlin {
 
+/// What a program may choose of the stand-ins; docs/embedding.md has the forms of the files.
 struct StandardPlatformOptions {
   std::shared_ptr<DialogHost> Host;
-  /// The language of the texts, as a locale names it (see `LanguageOf`); nothing: English.
+  /// The language of the texts, as a locale names it, such as `de` or `de_DE.UTF-8`; English for nothing, and for one
+  /// that is not there.
   std::optional<std::string> Language;
-  /// Texts in place of those of the language (see `ReadCatalogueFile`).
+  /// Texts in place of those of the language: a catalogue file.
   std::optional<std::filesystem::path> CatalogueFile;
-  /// Settings in place of the built-in ones (see `RegistryFileSettings`).
+  /// Settings in place of the built-in ones: a registry export.
   std::optional<std::filesystem::path> SettingsFile;
-  /// Where the databases are (see `ReadDataList`); nothing: what the settings name, else the built-in list.
+  /// Where the databases are, a data list; nothing: what the settings name, else the built-in list.
   std::optional<std::filesystem::path> DataListFile;
   /// The folder in which drive letters are folders; nothing: `tolmar/drives` in the user's data folder.
   std::optional<std::filesystem::path> DrivesFolder;
@@ -33,7 +34,7 @@ struct StandardPlatformOptions {
   std::function<void(const LoggedFault&)> OnFaultLogged;
 };
 
-/// The stand-ins of this folder, ready for `UsePlatform`. Reads the files that are named, once.
+/// The stand-ins for all that lies outside the library, ready for `UsePlatform`. Reads the files that are named, once.
 /// `PlatformError` for a file that is missing, unreadable or malformed, and for a `Now` that is no moment.
 [[nodiscard]] Platform StandardPlatform(const StandardPlatformOptions& options);
 
