@@ -1,7 +1,5 @@
 #include "app/calls/edit.h"
 
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -11,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include "OrlinCustomDialogs/components.h"
-#include "OrlinCustomDialogs/failure.h"
 
 #include "support/dialog_test.h"
 #include "support/temporary_folder.h"
@@ -29,53 +26,49 @@ std::string Trace(PublicClass::Call display, const std::string& script = {}, Sta
 }
 
 TEST(Run, TellsTheResultAndAllArgumentsButTheRights) {
-  const std::string object = R"("arguments":{"vOne":{"type":"Object","value":null}}})"
-                             "\n";
-  EXPECT_EQ(Trace([](auto& arguments) {
-              arguments[0] = std::make_shared<Object>();
-              return 7;
-            }),
-            R"({"event":"return","result":7,)" + object);
-  EXPECT_EQ(Trace([](auto& arguments) -> std::int32_t {
-              arguments[0] = std::make_shared<Object>();
-              throw Failure(380);
-            }),
-            R"({"event":"return","result":null,"raised":380,)" + object);
-}
-
-TEST(Run, KeepsTheBoundsOfArrays) {
-  const auto trace = Trace([](auto& arguments) {
-    arguments[0] = Array({1.5, "a"}, 1);
-    return 0;
-  });
-  EXPECT_NE(trace.find(R"({"type":"Array","value":[1.5,"a"],"types":["Double","String"],"lower":1})"),
-            std::string::npos)
-      << trace;
+  const std::pair<Value, std::string> values[] = {
+      {Value(), R"("Empty","value":null)"},
+      {70000, R"("Long","value":70000)"},
+      {2.5, R"("Double","value":2.5)"},
+      {true, R"("Boolean","value":true)"},
+      {"a\"b\\c\n\x01", R"("String","value":"a\"b\\c\n\u0001")"},
+      {"\u20AC\U0001F512a\xFF\xC3", "\"String\",\"value\":\"\u20AC\U0001F512a\uFFFD\uFFFD\""},
+      {Array({Integer(1), "x", Array({Value()})}, 1),
+       R"("Array","value":[1,"x",[null]],"types":["Integer","String","Array"],"lower":1)"},
+      {std::make_shared<Object>(), R"("Object","value":null)"}};
+  for (const auto& [value, told] : values) {
+    for (const bool fails : {false, true}) {
+      const auto trace = Trace([&, &held = value](auto& arguments) {
+        arguments[0] = held;
+        return fails ? throw Failure(380) : 7;
+      });
+      EXPECT_EQ(trace, std::string(R"({"event":"return","result":)") + (fails ? R"(null,"raised":380)" : "7") +
+                           R"(,"arguments":{"vOne":{"type":)" + told + "}}}\n");
+    }
+  }
 }
 
 TEST(Run, LogsFaultsInTheTraceAndInTheFile) {
   const TemporaryFolder folder;
   StandardPlatformOptions platform;
   platform.FaultFile = folder.Path() / "faults";
-  const auto trace = Trace(
-      [](auto&) {
-        auto log = std::dynamic_pointer_cast<FaultObjectComponent>(CreateObject("FaultObject.clsFaultObject"));
-        log->Add({13, "", "", "frmAny", "Display()", 0});
-        log->SetAddlText("more");
-        log->MsgBox();
-        log->LogError();
-        return 13;
-      },
-      "answer 1", platform);
-  const auto message = trace.find("{\"event\":\"message\"");
-  const auto fault = trace.find(
-      R"j({"event":"fault","number":13,"module":"frmAny","procedure":"Display()","additional":"more","shown":true})j"
-      "\n{\"event\":\"return\",\"result\":13,");
-  EXPECT_EQ(message, 0U) << trace;
-  EXPECT_NE(fault, std::string::npos) << trace;
-  std::ifstream file(*platform.FaultFile);
-  const std::string logged(std::istreambuf_iterator<char>(file), {});
-  EXPECT_NE(logged.find("number=13"), std::string::npos);
+  const auto fails = [](auto&) {
+    auto log = std::dynamic_pointer_cast<FaultObjectComponent>(CreateObject("FaultObject.clsFaultObject"));
+    log->Add({13, "", "", "frmAny", "Display()", 0});
+    log->SetAddlText("more");
+    log->MsgBox();
+    log->LogError();
+    return 13;
+  };
+  const auto trace = Trace(fails, "answer 1", platform);
+  EXPECT_TRUE(trace.starts_with("{\"event\":\"message\"")) << trace;
+  EXPECT_NE(
+      trace.find(R"j({"event":"fault","number":13,"module":"frmAny","procedure":"Display()","additional":"more",)j"
+                 R"("shown":true})"
+                 "\n{\"event\":\"return\",\"result\":13,"),
+      std::string::npos)
+      << trace;
+  EXPECT_NE(ContentOf(*platform.FaultFile).find("number=13"), std::string::npos);
 }
 
 }  // namespace

@@ -14,6 +14,8 @@
 #include "app/calls/installed_platform.h"
 #include "catalogue/text_catalogue.h"
 #include "standard_platform.h"
+#include "support/dialog_test.h"
+#include "support/frame_fixture.h"
 #include "support/temporary_folder.h"
 
 // What each file of catalogue/ owes to the dialogs. The texts of a language are looked at in the dialogs themselves, in
@@ -56,41 +58,29 @@ class NotingCatalogue : public TextCatalogue {
 
 /// Goes through all rows and options of a dialog, then confirms; looks at each step for access keys that clash and for
 /// variables that the dialog did not fill in.
-class Explorer : public DialogHost {
+class Explorer : public OperatorHost {
  public:
-  explicit Explorer(std::string_view language) : language_(language) {}
-
-  [[nodiscard]] SizeInTwips Screen() const override { return {}; }
-  int ShowMessage(const Message& message) override {
-    ExpectFilled(message.Text);
-    return message.Flags == Message::YesNo ? answers::Yes : answers::Ok;
-  }
-  void Beep() override {}
-
-  void ShowModal(shown::Dialog& dialog) override {
-    dialog.Activate();
-    Look(dialog);
-    for (auto* control : dialog.Controls()) {
-      if (dialog.IsShown()) Explore(*control);
-    }
-    if (dialog.IsShown() && dialog.DefaultButton() != nullptr) static_cast<void>(dialog.DefaultButton()->Press());
-    if (dialog.IsShown()) dialog.Close();
+  explicit Explorer(std::string_view language) : language_(language) {
+    AnswersAll = true;
+    Operate = [this](shown::Dialog& dialog) {
+      Look(dialog);
+      for (auto* control : dialog.Controls()) {
+        if (dialog.IsShown()) Explore(*control);
+      }
+      if (dialog.IsShown() && dialog.DefaultButton() != nullptr) static_cast<void>(dialog.DefaultButton()->Press());
+      for (const auto& message : std::exchange(Messages, {})) ExpectFilled(message.Text);
+    };
   }
 
  private:
   void Explore(shown::Control& control) {
     static_cast<void>(control.Focus());
-    if (const auto* rows = control.AsRowList()) {
-      for (int row = 0; row < rows->ListCount(); ++row) Pick(control, row);
-    } else if (control.Kind() == ControlKind::OptionButton || control.Kind() == ControlKind::CheckBox) {
-      static_cast<void>(control.Press());
-      Look(control.Form());
+    const bool isMark = control.Kind() == ControlKind::OptionButton || control.Kind() == ControlKind::CheckBox;
+    if (isMark && !control.Press()) Look(control.Form());
+    const auto* rows = control.AsRowList();
+    for (int row = 0; rows != nullptr && row < rows->ListCount(); ++row) {
+      if (!control.AsRowList()->PickRow(row)) Look(control.Form());
     }
-  }
-
-  void Pick(shown::Control& control, int row) {
-    if (control.AsRowList()->PickRow(row)) return;
-    Look(control.Form());
   }
 
   void Look(const shown::Dialog& dialog) {
@@ -98,9 +88,8 @@ class Explorer : public DialogHost {
     std::map<char32_t, const shown::Control*> owners;
     for (const auto* control : dialog.Controls()) {
       ExpectFilled(control->Caption());
-      if (const auto* rows = control->AsRowList()) {
-        for (int row = 0; row < rows->ListCount(); ++row) ExpectFilled(rows->List(row));
-      }
+      const auto* rows = control->AsRowList();
+      for (int row = 0; rows != nullptr && row < rows->ListCount(); ++row) ExpectFilled(rows->List(row));
       const auto key = AccessKey(control->Caption());
       if (key == 0 || !LeadsSomewhere(*control)) continue;
       const auto [owner, isFirst] = owners.emplace(key, control);
@@ -120,43 +109,26 @@ class Explorer : public DialogHost {
   std::string language_;
 };
 
-struct Call {
-  const PublicClass* Class;
-  std::vector<std::string> Arguments;
-};
-
-/// The calls of the example account, and more for texts that only other values show.
-std::vector<Call> Calls(const Account& account) {
-  std::vector<Call> calls;
-  for (const auto& parameter : account.Parameters()) calls.push_back({parameter.Class, parameter.Arguments});
-  const std::pair<const char*, std::vector<std::string>> others[] = {
-      {"clsZoneTypeBirch", {"iZoneNum=130", "iOrlinRF=0", "iZoneType=0"}},
-      {"clsZoneTypeBirch", {"iZoneNum=137", "iOrlinRF=0", "iZoneType=0"}},
-      {"clsZoneTypeBirch", {"iZoneNum=130", "iOrlinRF=1", "iZoneType=0"}},
-      {"clsZoneTypeBirch", {"iZoneNum=12", "iOrlinRF=0", "iZoneType=0"}},
-      {"clsPulseCount_Pine", {"vInterval1=4", "vInterval2=16", "vPulseCount=16", "vPulseCountTime=0"}},
-      {"clsOutputFunctions_Pine", {"vCode=0", "vPanelType=24"}},
-      {"clsOutputFunctions_Pine", {"vCode=0", "vPanelType=32"}},
-      {"clsOutputFunctions_Pine", {"vCode=0", "vPanelType=40"}},
-      {"clsOutputFunctions_Pine", {"vCode=0", "vPanelType=41"}},
-      {"clsPhoneOptions_Pine", {"vTrouble=0", "vOn=0", "vOff=0", "vPanelType=40"}},
-      {"clsAltCommConfiguration", {"vMode=0", "vAlarm=0", "vOpenClose=0", "vAll=0", "iItemNo=132"}},
-      {"clsWirelessPointID", {"iOption1=4", "vType=\"1\""}},
-      {"clsWirelessPointID", {"iOption1=9", "vType=\"1\""}},
-      {"clsWirelessPointID", {"vType=\"1\""}},
-      {"clsWSNDeviceTypeInput", {"vDeviceType=8", "vMappedOutput=0", "vOption=2", "vfreeOutputs=[true*4]"}},
-      {"clsWSNDeviceTypeOutput", {"vDeviceType=8", "vMappedOutput=1", "vOption=2", "vFreeInputs=[true*32]"}}};
-  for (const auto& [name, arguments] : others) calls.push_back({FindPublicClass(name), arguments});
-  const std::vector<std::string> passcodes = {R"(vresult=["1234","1236",""*248])", R"(vpresent=["1234","1236",""*248])",
-                                              "vPasscodeLength=4", "iTotalNoOfUsers=9"};
-  for (const char* sia : {"bThroughSIA=0", "bThroughSIA=1"}) {
-    for (const char* comm : {"bThroughComm=0", "bThroughComm=1"}) {
-      calls.push_back({FindPublicClass("clspasscodeLen"), passcodes});
-      calls.back().Arguments.insert(calls.back().Arguments.end(), {sia, comm});
-    }
-  }
-  return calls;
-}
+/// Calls for texts that the example account does not show.
+const char* const kOtherCalls[] = {
+    "clsZoneTypeBirch iZoneNum=130 iOrlinRF=0 iZoneType=0",
+    "clsZoneTypeBirch iZoneNum=137 iOrlinRF=0 iZoneType=0",
+    "clsZoneTypeBirch iZoneNum=130 iOrlinRF=1 iZoneType=0",
+    "clsZoneTypeBirch iZoneNum=12 iOrlinRF=0 iZoneType=0",
+    "clsPulseCount_Pine vInterval1=4 vInterval2=16 vPulseCount=16 vPulseCountTime=0",
+    "clsOutputFunctions_Pine vCode=0 vPanelType=24",
+    "clsOutputFunctions_Pine vCode=0 vPanelType=32",
+    "clsOutputFunctions_Pine vCode=0 vPanelType=40",
+    "clsOutputFunctions_Pine vCode=0 vPanelType=41",
+    "clsPhoneOptions_Pine vTrouble=0 vOn=0 vOff=0 vPanelType=40",
+    "clsAltCommConfiguration vMode=0 vAlarm=0 vOpenClose=0 vAll=0 iItemNo=132",
+    "clsWirelessPointID iOption1=4 vType=\"1\"",
+    "clsWirelessPointID iOption1=9 vType=\"1\"",
+    "clsWirelessPointID vType=\"1\"",
+    "clsWSNDeviceTypeInput vDeviceType=8 vMappedOutput=0 vOption=2 vfreeOutputs=[true*4]",
+    "clsWSNDeviceTypeOutput vDeviceType=8 vMappedOutput=1 vOption=2 vFreeInputs=[true*32]"};
+constexpr const char* kPasscodes =
+    R"(clspasscodeLen vresult=["1234","1236",""*248] vpresent=["1234","1236",""*248] vPasscodeLength=4 iTotalNoOfUsers=9)";
 
 /// Shows every dialog in a language; returns the numbers that were asked for.
 Numbers Explored(const Language& language) {
@@ -170,9 +142,19 @@ Numbers Explored(const Language& language) {
   platform.Components["LocalText.clsLocalText"] = [&] { return std::make_shared<NotingCatalogue>(language, asked); };
   const InstalledPlatform installed(std::move(platform));
   const Account account(ORLIN_EXAMPLES "/account.json");
-  for (const auto& call : Calls(account)) {
-    auto arguments = BindArguments(*call.Class, call.Arguments, account.Parameters().front().Levels);
-    EXPECT_LE(call.Class->Display(arguments), 2) << call.Class->Name();
+  const auto show = [&](const PublicClass& shown, const std::vector<std::string>& words) {
+    auto arguments = BindArguments(shown, words, account.Parameters().front().Levels);
+    EXPECT_LE(shown.Display(arguments), 2) << shown.Name();
+  };
+  std::vector<std::string> calls(std::begin(kOtherCalls), std::end(kOtherCalls));
+  for (const char* sia : {" bThroughSIA=0", " bThroughSIA=1"}) {
+    for (const char* comm : {" bThroughComm=0", " bThroughComm=1"})
+      calls.push_back(std::string(kPasscodes) + sia + comm);
+  }
+  for (const auto& parameter : account.Parameters()) show(*parameter.Class, parameter.Arguments);
+  for (const auto& call : calls) {
+    const auto words = SplitAtBlanks(call);
+    show(ClassNamed(words.front()), {words.begin() + 1, words.end()});
   }
   return asked;
 }

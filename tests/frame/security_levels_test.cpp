@@ -13,8 +13,8 @@ TEST(SecurityLevelsCollection, IsOrderedAndKeyedWithoutRegardToCase) {
   EXPECT_TRUE(MayView(levels, "Date") && !MayEdit(levels, "Date"));
   EXPECT_EQ(FailureOf([&] { levels.Add("date", 0, 0); }), failures::KeyExists);
   for (const int index : {0, 3})
-    EXPECT_EQ(FailureOf([&] { static_cast<void>(levels.Item(index)); }), failures::SubscriptOutOfRange);
-  EXPECT_EQ(FailureOf([&] { static_cast<void>(levels.Item("x")); }), failures::InvalidCall);
+    EXPECT_EQ(FailureOf([&] { return levels.Item(index); }), failures::SubscriptOutOfRange);
+  EXPECT_EQ(FailureOf([&] { return levels.Item("x"); }), failures::InvalidCall);
 }
 
 TEST(SecurityLevelsArgument, HasToBeACollection) {
@@ -24,7 +24,7 @@ TEST(SecurityLevelsArgument, HasToBeACollection) {
                                          {ObjectPtr(), failures::NoObject},
                                          {std::make_shared<Object>(), failures::TypeMismatch}};
   for (const auto& [value, failure] : cases)
-    EXPECT_EQ(FailureOf([&level = value] { static_cast<void>(AsSecurityLevels(level)); }), failure);
+    EXPECT_EQ(FailureOf([&level = value] { return AsSecurityLevels(level); }), failure);
 }
 
 }  // namespace

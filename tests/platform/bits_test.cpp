@@ -18,17 +18,16 @@ TEST(Bits, AreReadFromTheLeastSignificantOne) {
 TEST(Bits, AreStoredWithoutTouchingTheOthers) {
   const struct {
     std::int16_t Value;
-    std::int32_t Bit;
-    std::int32_t Count;
+    std::int32_t Bit, Count;
     std::int16_t New;
     int After;
   } cases[] = {{0, 3, 1, 1, 8},
                {0x7F, 3, 1, 0, 0x77},
                {0, 3, 1, 2, 0},
                {0, 15, 1, 1, -32768},
-               {-1, 15, 1, 0, 0x7FFF},
-               {0x0F, 2, 2, 1, 0x07},
-               {0, 14, 4, 13, 0x4000},
+               {-1, 15, 1, 0, 32767},
+               {0x0F, 2, 2, 1, 7},
+               {0, 14, 4, 13, 16384},
                {5, 0, 0, 7, 5},
                {5, 0, -1, 7, 5},
                {5, 16, 1, 1, 5},

@@ -1,5 +1,7 @@
-#include "platform/platform_fixture.h"
+#include "files/text_file.h"
 #include "settings/registry_file_settings.h"
+#include "standard_platform.h"
+#include "support/temporary_folder.h"
 
 namespace orlin::testing {
 namespace {
@@ -12,7 +14,6 @@ std::string Lookup(SettingsStore& store, const std::string& subKey, const std::s
   const auto key = store.RegOpenKeyA(kHive, subKey);
   if (!key) return "no key";
   const auto setting = store.RegQueryValueExA(*key, name);
-  store.RegCloseKey(*key);
   if (!setting) return "no value";
   return (setting->type == SettingsStore::Type::String ? "text:" : "other:") + setting->Bytes;
 }
@@ -24,13 +25,13 @@ TEST_F(Settings, AreBuiltInUntilAFileReplacesThem) {
   EXPECT_EQ(Lookup(builtIn, kSetup, "WarningLevel"), "text:0");
   EXPECT_EQ(Lookup(builtIn, "Software\\Varnek\\Tolmar\\Installation", "APPLICATION_TYPE"), "text:0");
   EXPECT_EQ(Lookup(builtIn, kSetup, "Password"), "no value");
-  Write("setup.reg", "");
+  Folder.Write("setup.reg", "");
   RegistryFileSettings empty("setup.reg");
   EXPECT_EQ(Lookup(empty, kSetup, "WarningLevel"), "no key");
 }
 
 TEST_F(Settings, AreReadInRegistryExportFormat) {
-  Write("setup.reg", R"(Windows Registry Editor Version 5.00
+  Folder.Write("setup.reg", R"(Windows Registry Editor Version 5.00
 
 ; a comment
 [HKEY_LOCAL_MACHINE\Software\Varnek\Tolmar\Setup] ; a comment
@@ -50,28 +51,21 @@ TEST_F(Settings, AreReadInRegistryExportFormat) {
 "User"="1"
 [HKEY_LOCAL_MACHINE\SOFTWARE\varnek\tolmar\setup]
 "twice"="2")"
-                     "\r\n\"Bytes\"=\"\xE4\"");
+                            "\r\n\"Bytes\"=\"\xE4\"");
   RegistryFileSettings settings("setup.reg");
-  const std::map<std::string, std::string> cases = {{"WarningLevel", "text:3"},
-                                                    {"WARNINGLEVEL", "text:3"},
-                                                    {"Path", "text:C:\\a\\0 \"b\" ; c"},
-                                                    {"a\\b", "text:"},
-                                                    {"Zero", std::string("text:ab\0cd", 10)},
-                                                    {"Bytes", "text:\xE4"},
-                                                    {"Number", "other:"},
-                                                    {"None", "other:"},
-                                                    {"Binary", "other:"},
-                                                    {"Long", "other:"},
-                                                    {"", "text:nameless"},
-                                                    {"Twice", "text:2"},
-                                                    {"User", "no value"}};
+  const std::pair<const char*, const char*> cases[] = {
+      {"WarningLevel", "text:3"}, {"WARNINGLEVEL", "text:3"}, {"Path", "text:C:\\a\\0 \"b\" ; c"},
+      {"Twice", "text:2"},        {"a\\b", "text:"},          {"Bytes", "text:\xE4"},
+      {"", "text:nameless"},      {"User", "no value"},       {"Number", "other:"},
+      {"None", "other:"},         {"Binary", "other:"},       {"Long", "other:"}};
   for (const auto& [name, value] : cases) EXPECT_EQ(Lookup(settings, kSetup, name), value) << name;
+  EXPECT_EQ(Lookup(settings, kSetup, "Zero"), std::string("text:ab\0cd", 10));
   EXPECT_EQ(Lookup(settings, "SOFTWARE\\VARNEK\\TOLMAR\\SETUP", "Twice"), "text:2");
   EXPECT_EQ(Lookup(settings, "Software\\Other", "User"), "no key");
 }
 
 TEST_F(Settings, TellFileAndLineOfTheFirstError) {
-  const LinesByError cases = {
+  const std::pair<const char*, std::vector<std::string>> cases[] = {
       {"the ] of the key is missing", {"[HKEY_LOCAL_MACHINE\\a"}},
       {"a key has to begin with HKEY_LOCAL_MACHINE or another HKEY_ name", {"[Software]", "[-HKEY_LOCAL_MACHINE\\a]"}},
       {"nothing but a comment may follow here",
@@ -86,16 +80,27 @@ TEST_F(Settings, TellFileAndLineOfTheFirstError) {
       {"the : behind hex is missing", {"\"a\"=hex"}},
       {"the ) behind hex( is missing", {"\"a\"=hex(2"}},
       {"the line that the \\ announces is missing", {"\"a\"=hex:00,\\"}}};
-  const auto errorIn = [](const std::string& content) {
-    Write("setup.reg", content);
-    return ErrorOf([] { RegistryFileSettings settings("setup.reg"); });
+  const auto errorIn = [this](const std::string& content) {
+    Folder.Write("setup.reg", content);
+    return ErrorOf<PlatformError>([] { return RegistryFileSettings("setup.reg").RegOpenKeyA(kHive, ""); });
   };
   for (const auto& [error, lines] : cases) {
     for (const auto& line : lines) {
-      EXPECT_EQ(errorIn("[HKEY_LOCAL_MACHINE\\x]\r\n" + line), "setup.reg:2: " + error) << line;
+      EXPECT_EQ(errorIn("[HKEY_LOCAL_MACHINE\\x]\r\n" + line), std::string("setup.reg:2: ") + error) << line;
     }
   }
   EXPECT_EQ(errorIn("\"a\"=\"b\"\n"), "setup.reg:1: a [key] has to stand before the first value");
+}
+
+TEST_F(Settings, AreReadWithTheOtherFilesWhenThePlatformIsMade) {
+  StandardPlatformOptions options;
+  options.SettingsFile = Folder.Write("setup.reg", "[HKEY_LOCAL_MACHINE\\a]\n");
+  options.CatalogueFile = Folder.Write("texts.tsv", "101\tGut\n");
+  const auto platform = StandardPlatform(options);
+  for (const char* file : {"setup.reg", "texts.tsv"}) std::filesystem::remove(file);
+  EXPECT_EQ(Lookup(*platform.Settings, "a", ""), "no value");
+  const auto catalogue = platform.Components.at("LocalText.clsLocalText")();
+  EXPECT_EQ(std::dynamic_pointer_cast<LocalTextComponent>(catalogue)->GetLocalTextBASE(101), "Gut");
 }
 
 TEST_F(Settings, KeepSeveralKeysOpenUntilTheyAreClosed) {

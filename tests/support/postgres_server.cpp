@@ -3,11 +3,8 @@
 #include <chrono>
 #include <csignal>
 #include <thread>
-#include <vector>
 
-#include <fcntl.h>
 #include <pwd.h>
-#include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -26,23 +23,11 @@ std::string Programs() {
 }
 
 /// Starts a program of the server, which refuses to run as root, so that it ends when this process does.
-pid_t Spawn(std::vector<std::string> words) {
-  const bool isRoot = geteuid() == 0;
-  std::vector<std::string> line{"setpriv", "--pdeathsig", "QUIT"};
-  if (isRoot) line.insert(line.end(), {"--reuid=postgres", "--regid=postgres", "--clear-groups"});
-  line.insert(line.end(), words.begin(), words.end());
-  std::vector<char*> arguments;
-  for (auto& word : line) arguments.push_back(word.data());
-  arguments.push_back(nullptr);
-
-  posix_spawn_file_actions_t files{};
-  posix_spawn_file_actions_init(&files);
-  posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-  posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-  pid_t started = 0;
-  const int failed = posix_spawnp(&started, "setpriv", &files, nullptr, arguments.data(), environ);
-  posix_spawn_file_actions_destroy(&files);
-  if (failed != 0) throw std::runtime_error("setpriv cannot be started");
+pid_t Spawn(const std::string& command) {
+  const auto* const user = geteuid() == 0 ? "--reuid=postgres --regid=postgres --clear-groups " : "";
+  const auto line = std::string("exec setpriv --pdeathsig QUIT ") + user + Programs() + command + " >/dev/null 2>&1";
+  const auto started = fork();
+  if (started == 0) _exit(execl("/bin/sh", "sh", "-c", line.c_str(), nullptr));
   return started;
 }
 
@@ -64,8 +49,8 @@ PostgresServer::PostgresServer() {
     }
   }
   const auto made =
-      StatusOf(Spawn({Programs() + "initdb", "--pgdata", folder_.Path() / "data", "--username", kUser, "--auth",
-                      "scram-sha-256", "--pwfile", password, "--encoding", "UTF8", "--locale", "C", "--no-sync"}));
+      StatusOf(Spawn("initdb --pgdata " + folder_.Path().string() + "/data --username " + kUser +
+                     " --auth scram-sha-256 --pwfile " + password.string() + " --encoding UTF8 --locale C --no-sync"));
   if (made != 0) throw std::runtime_error("initdb failed");
   Start();
 }
@@ -73,10 +58,10 @@ PostgresServer::PostgresServer() {
 PostgresServer::~PostgresServer() { Stop(); }
 
 void PostgresServer::Start() {
-  server_ = Spawn(
-      {Programs() + "postgres", "-D", folder_.Path() / "data", "-k", folder_.Path(), "-c", "listen_addresses=", "-F"});
+  const auto folder = folder_.Path().string();
+  server_ = Spawn("postgres -D " + folder + "/data -k " + folder + " -c listen_addresses= -F");
   for (int i = 0; i < 600; ++i) {
-    if (StatusOf(Spawn({Programs() + "pg_isready", "-q", "-h", folder_.Path()})) == 0) return;
+    if (StatusOf(Spawn("pg_isready -q -h " + folder)) == 0) return;
     std::this_thread::sleep_for(std::chrono::milliseconds(50));
   }
   throw std::runtime_error("the server does not start");

@@ -5,32 +5,24 @@
 #include "OrlinCustomDialogs/failure.h"
 
 #include "cipher/ccrypt.h"
-#include "platform/platform_fixture.h"
+#include "files/text_file.h"
 #include "store/data_list.h"
 #include "store/data_list_file.h"
 #include "store/drive_paths.h"
 #include "store/query.h"
 #include "store/utf16.h"
+#include "support/frame_fixture.h"
+#include "support/temporary_folder.h"
 
 namespace orlin::testing {
 namespace {
 
 using DataListFile = FolderTest;
 
-template <class Call>
-std::int32_t FailureOf(Call call) {
-  try {
-    static_cast<void>(call());
-    return 0;
-  } catch (const Failure& failure) {
-    return failure.Number();
-  }
-}
-
 TEST_F(DataListFile, EntriesAreFoundByNameInAnyCase) {
-  Write("list",
-        "; accounts\n# here\r\n[panelnotes]\ndbtype = Access\nDBDRV=c\nDBDIR=\\a b\\\nDBNAME=n.db\n\n"
-        "[Other]\nDBTYPE=ODBC\nCONNECT=DSN=x;Option==1\n");
+  Folder.Write("list",
+               "; accounts\n# here\r\n[panelnotes]\ndbtype = Access\nDBDRV=c\nDBDIR=\\a b\\\nDBNAME=n.db\n\n"
+               "[Other]\nDBTYPE=ODBC\nCONNECT=DSN=x;Option==1\n");
   const auto entries = ReadDataList("list");
   const auto* notes = FindEntry(entries, "PanelNotes");
   ASSERT_NE(notes, nullptr);
@@ -43,52 +35,39 @@ TEST_F(DataListFile, EntriesAreFoundByNameInAnyCase) {
 TEST_F(DataListFile, AWrongLineIsToldWithItsNumber) {
   for (const auto* text :
        {"\nDBTYPE=ACCESS\n", "[a]\nDBTYPE\n", "[a]\nPASSWORD=x\n", "[a]\n[]\n", "[a]\n[b\n", "[a]\n[A]\n"}) {
-    Write("list", text);
-    try {
-      static_cast<void>(ReadDataList("list"));
-      ADD_FAILURE() << text;
-    } catch (const PlatformError& error) {
-      EXPECT_TRUE(std::string(error.what()).starts_with("list:2: ")) << error.what();
-    }
+    Folder.Write("list", text);
+    const auto error = ErrorOf<PlatformError>([] { return ReadDataList("list"); });
+    EXPECT_TRUE(error.starts_with("list:2: ")) << text << error;
   }
 }
 
 TEST_F(DataListFile, TheSettingsMayNameIt) {
   std::filesystem::create_directory("c");
-  Write("c/local", "[Notes]\nDBTYPE=local\n");
-  Write("network", "[Notes]\nDBTYPE=network\n");
-  const struct {
-    const char* Network;
-    const char* Local;
-    const char* Type;  // empty: the built-in list, which has no such entry
-  } cases[] = {{"network", "C:\\local", "network"}, {"missing", "C:\\local", "local"}, {"", "C:\\missing", ""}};
-  for (const auto& one : cases) {
-    DataList list({{}, std::filesystem::current_path()});
-    list.SetNetWorkDListPath(one.Network);
-    list.SetLocalDListPath(one.Local);
-    EXPECT_EQ(list.DgetDLIST("notes", 0), *one.Type == '\0' ? failures::InvalidCall : 0) << one.Network;
-    EXPECT_EQ(list.DBTYPE(), one.Type);
+  Folder.Write("c/local", "[Notes]\nDBTYPE=local\n");
+  Folder.Write("network", "[Notes]\nDBTYPE=network\n");
+  // The built-in list has no such entry.
+  for (const auto& [network, local, type] :
+       {std::tuple("network", "C:\\local", "network"), {"missing", "C:\\local", "local"}, {"", "C:\\missing", ""}}) {
+    DataList list({{}, Folder.Path()});
+    list.SetNetWorkDListPath(network);
+    list.SetLocalDListPath(local);
+    EXPECT_EQ(list.DgetDLIST("notes", 0), *type == '\0' ? failures::InvalidCall : 0) << network;
+    EXPECT_EQ(list.DBTYPE(), type);
   }
 }
 
 TEST(DrivePath, ALetterIsAFolderThatNothingLeaves) {
-  const struct {
-    const char* Path;
-    const char* File;  // null: none
-  } cases[] = {{"C:\\accounts\\notes.db", "/d/c/accounts/notes.db"},
-               {"x:a/b", "/d/x/a/b"},
-               {"C:", "/d/c"},
-               {"C:\\.\\\\a", "/d/c/a"},
-               {"C:\\..\\x", nullptr},
-               {"C:\\a/../../x", nullptr},
-               {"1:\\a", nullptr},
-               {"/etc/passwd", nullptr},
-               {"", nullptr}};
-  for (const auto& one : cases) {
-    EXPECT_EQ(FileAt(one.Path, "/d"),
-              one.File != nullptr ? std::optional(std::filesystem::path(one.File)) : std::nullopt)
-        << one.Path;
-  }
+  const std::pair<const char*, std::optional<std::filesystem::path>> cases[] = {
+      {"C:\\accounts\\notes.db", "/d/c/accounts/notes.db"},
+      {"x:a/b", "/d/x/a/b"},
+      {"C:", "/d/c"},
+      {"C:\\.\\\\a", "/d/c/a"},
+      {"C:\\..\\x", {}},
+      {"C:\\a/../../x", {}},
+      {"1:\\a", {}},
+      {"/etc/passwd", {}},
+      {"", {}}};
+  for (const auto& [path, file] : cases) EXPECT_EQ(FileAt(path, "/d"), file) << path;
 }
 
 TEST(StoreQuery, ValuesAreTakenOutWhateverIsInThem) {
