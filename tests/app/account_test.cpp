@@ -1,11 +1,7 @@
 #include "app/account/account.h"
 
 #include <algorithm>
-#include <string>
-#include <utility>
-#include <vector>
 
-#include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 

@@ -2,15 +2,10 @@
 
 #include <array>
 #include <cstdio>
-#include <cstdlib>
 #include <memory>
 #include <sstream>
-#include <string>
 #include <tuple>
-#include <utility>
-#include <vector>
 
-#include <gtest/gtest.h>
 #include <sys/wait.h>
 
 #include "app/command_line/usage_error.h"

@@ -1,12 +1,6 @@
 #include "app/description/describe.h"
 
-#include <filesystem>
 #include <sstream>
-#include <string>
-#include <utility>
-
-#include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include "app/command_line/status.h"
 #include "support/dialog_test.h"
@@ -56,14 +50,6 @@ TEST(DescribeText, TellsWhatTheOperatorWouldSee) {
   Third digit:              1. Silent, no report
   Fourth digit:             1. No bypass, no restoral report
 )"},
-      // boxes with units, which stand on one line
-      {"clsPanelGMT iHrs=5 iMins=30 iPanelDayLightSaving=1",
-       R"j(Panel Time
-  Hours From GMT(UTC)
-    Panel Time differs from GMT by:  5 Hrs 30 Min
-    [ ] Panel Time behind GMT(UTC)
-    [x] Daylight Savings
-)j"},
       // boxes with a separator, frames, options, check marks, and a hidden frame
       {"clsSkedFunc_WillowDuo SkedType=1 SkedTime=\"**:30\" SkedData=\"01/02\" SkedFunc=\"012\"",
        R"(Sked 101
@@ -77,13 +63,7 @@ TEST(DescribeText, TellsWhatTheOperatorWouldSee) {
     ** for every month or every day
   Code:       012  Turn relay 2 on
 )"},
-      // lists that take turns behind a label, one row or many
-      {"clsSkedFunc_Rowan Byte1=1 Byte2=3",
-       R"(Sked Function
-  Function:            1  Arm areas
-  Parameter 1: Areas:  Area 7
-                       Area 8
-)"},
+      // lists that take turns behind a label
       {kLists,
        R"(Sked Function
   Function:                   11  Give an access level a time window

@@ -1,12 +1,4 @@
-#include <filesystem>
-#include <functional>
-#include <memory>
 #include <sstream>
-#include <string>
-#include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "app/account/account.h"
 #include "app/calls/call.h"

@@ -1,10 +1,6 @@
 #include "frame/values/conversions.h"
 
 #include <cmath>
-#include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "support/frame_fixture.h"
 

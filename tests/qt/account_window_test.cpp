@@ -3,22 +3,13 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QTableWidget>
-#include <cstddef>
-#include <filesystem>
 #include <functional>
-#include <initializer_list>
-#include <string>
-#include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "app/account/account.h"
 #include "app/account/account_command.h"
+#include "support/frame_fixture.h"
 #include "support/temporary_folder.h"
 #include "support/windows_of_tests.h"
-
-// The window of an account as an operator at the keyboard works it.
 
 namespace orlin::testing {
 namespace {
@@ -53,65 +44,47 @@ void Press(int key) {
   }
 }
 
-class AccountWindowTest : public ::testing::Test {
- protected:
-  AccountWindowTest() { std::filesystem::copy_file(ORLIN_EXAMPLES "/account.json", File); }
-
-  /// Shows the account until all steps are done.
-  void Work(std::vector<Operator::Step> steps) {
-    steps.emplace_back([this] {
+TEST(AccountWindowTest, KeysAloneChangeOneParameterAfterTheOtherAlsoWhereOthersStore) {
+  const TemporaryFolder folder;
+  AccountOptions options;
+  options.File = folder.Path() / "account.json";
+  std::filesystem::copy_file(ORLIN_EXAMPLES "/account.json", options.File);
+  std::vector<Operator::Step> steps;
+  const auto press = [&](const std::vector<int>& keys) {
+    for (const int key : keys) steps.emplace_back([key] { Press(key); });
+  };
+  // The line below the table, and the raw values of the first two.
+  const auto expect = [&](const std::string& line, const std::string& zone5, const std::string& zone12) {
+    steps.emplace_back([=] {
       const auto* window = QApplication::activeModalWidget();
       const auto* table = window->findChild<QTableWidget*>();
-      Line = window->findChild<QLabel*>()->text().toStdString();
-      for (int row = 0; row < 2; ++row) Rows.push_back(table->item(row, 2)->text().toStdString());
-      QApplication::activeModalWidget()->close();
+      EXPECT_EQ(window->findChild<QLabel*>()->text().toStdString(), line);
+      EXPECT_EQ(table->item(0, 2)->text().toStdString(), "ZoneNum=5  ZoneCode=\"" + zone5 + "\"");
+      EXPECT_EQ(table->item(1, 2)->text().toStdString(),
+                "vName=Zone 12  vType=" + zone12 + "  vOption=1  vTroubleOn=2");
     });
-    const Operator works(std::move(steps));
-    AccountOptions options;
-    options.File = File;
-    ShowAccount(std::move(options), [](Screen) -> WindowSystem& { return *WindowsOfTests(); });
-  }
-
-  static std::vector<Operator::Step> Keys(std::initializer_list<int> keys) {
-    std::vector<Operator::Step> steps;
-    for (const int key : keys) steps.emplace_back([key] { Press(key); });
-    return steps;
-  }
-
-  TemporaryFolder Folder;
-  std::filesystem::path File = Folder.Path() / "account.json";
-  // When the window was closed:
-  std::vector<std::string> Rows;  ///< the raw values of the first two
-  std::string Line;               ///< below the table
-};
-
-TEST_F(AccountWindowTest, KeysAloneChangeOneParameterAfterTheOther) {
-  Work(Keys({Qt::Key_Return, Qt::Key_Up, Qt::Key_Up, Qt::Key_Return,      // zone 5: first digit 5 to 3
-             Qt::Key_Down, Qt::Key_Return, Qt::Key_Down, Qt::Key_Return,  // zone 12: type 3 to 4
-             Qt::Key_Up, Qt::Key_Return, Qt::Key_Down, Qt::Key_Escape,    // cancelled
-             Qt::Key_Return, Qt::Key_Down, Qt::Key_Return}));             // zone 5: 4
-  EXPECT_EQ(Line, "Zone 5, code: result 0, stored");
-  EXPECT_EQ(Rows, (std::vector<std::string>{"ZoneNum=5  ZoneCode=\"4146\"",
-                                            "vName=Zone 12  vType=4  vOption=1  vTroubleOn=2"}));
-  EXPECT_EQ(Account(File).ValuesOf(0).at(1), "4146");
-  EXPECT_EQ(Account(File).ValuesOf(1).at(1), Value(std::int16_t{4}));
-}
-
-TEST_F(AccountWindowTest, TellsInWordsWhatSomebodyElseHasStoredMeanwhile) {
-  auto steps = Keys({Qt::Key_Return, Qt::Key_Up, Qt::Key_Up});
-  steps.emplace_back([this] {
-    Account other(File);
+  };
+  press({Qt::Key_Return, Qt::Key_Up, Qt::Key_Up, Qt::Key_Return,        // zone 5: first digit 5 to 3
+         Qt::Key_Down, Qt::Key_Return, Qt::Key_Down, Qt::Key_Return});  // zone 12: type 3 to 4
+  expect("Zone 12, function: result 0, stored", "3146", "4");
+  press({Qt::Key_Up, Qt::Key_Return, Qt::Key_Down, Qt::Key_Escape});
+  expect("Zone 5, code: result 1, not changed", "3146", "4");
+  press({Qt::Key_Return, Qt::Key_Down});
+  steps.emplace_back([&] {
+    Account other(options.File);
+    EXPECT_EQ(other.ValuesOf(0).at(1), "3146");
     other.Store(0, {std::int16_t{5}, "7146"});
     other.Store(1, {"Zone 12", std::int16_t{8}, std::int16_t{1}, std::int16_t{2}, Value()});
   });
-  for (auto& step : Keys({Qt::Key_Return})) steps.push_back(std::move(step));
-  Work(std::move(steps));
-  EXPECT_EQ(Line,
-            "Zone 5, code: not stored, it was changed by somebody else meanwhile. "
-            "Now in the file: Function code of zone 5: 7146; First digit: 7. Keyswitch zone. "
-            "Entered here: Function code of zone 5: 3146; First digit: 3. Burglary zone.");
-  EXPECT_EQ(Rows, (std::vector<std::string>{"ZoneNum=5  ZoneCode=\"7146\"",
-                                            "vName=Zone 12  vType=8  vOption=1  vTroubleOn=2"}));
+  press({Qt::Key_Return});
+  expect(
+      "Zone 5, code: not stored, it was changed by somebody else meanwhile. "
+      "Now in the file: Function code of zone 5: 7146; First digit: 7. Keyswitch zone. "
+      "Entered here: Function code of zone 5: 4146; First digit: 4. Fire zone.",
+      "7146", "8");
+  steps.emplace_back([] { QApplication::activeModalWidget()->close(); });
+  const Operator works(std::move(steps));
+  ShowAccount(options, [](Screen) -> WindowSystem& { return *WindowsOfTests(); });
 }
 
 }  // namespace

@@ -1,60 +1,15 @@
 #include <tuple>
 
-#include <gtest/gtest.h>
-
 #include "OrlinCustomDialogs/failure.h"
 
 #include "cipher/ccrypt.h"
-#include "files/text_file.h"
-#include "store/data_list.h"
-#include "store/data_list_file.h"
 #include "store/drive_paths.h"
 #include "store/query.h"
 #include "store/utf16.h"
 #include "support/frame_fixture.h"
-#include "support/temporary_folder.h"
 
 namespace orlin::testing {
 namespace {
-
-using DataListFile = FolderTest;
-
-TEST_F(DataListFile, EntriesAreFoundByNameInAnyCase) {
-  Folder.Write("list",
-               "; accounts\n# here\r\n[panelnotes]\ndbtype = Access\nDBDRV=c\nDBDIR=\\a b\\\nDBNAME=n.db\n\n"
-               "[Other]\nDBTYPE=ODBC\nCONNECT=DSN=x;Option==1\n");
-  const auto entries = ReadDataList("list");
-  const auto* notes = FindEntry(entries, "PanelNotes");
-  ASSERT_NE(notes, nullptr);
-  EXPECT_EQ(std::tie(notes->DBTYPE, notes->DBDRV, notes->DBDIR, notes->DBNAME),
-            std::tuple("Access", "c", "\\a b\\", "n.db"));
-  EXPECT_EQ(FindEntry(entries, "OTHER")->CONNECT, "DSN=x;Option==1");
-  EXPECT_EQ(FindEntry(entries, "Panel"), nullptr);
-}
-
-TEST_F(DataListFile, AWrongLineIsToldWithItsNumber) {
-  for (const auto* text :
-       {"\nDBTYPE=ACCESS\n", "[a]\nDBTYPE\n", "[a]\nPASSWORD=x\n", "[a]\n[]\n", "[a]\n[b\n", "[a]\n[A]\n"}) {
-    Folder.Write("list", text);
-    const auto error = ErrorOf<PlatformError>([] { return ReadDataList("list"); });
-    EXPECT_TRUE(error.starts_with("list:2: ")) << text << error;
-  }
-}
-
-TEST_F(DataListFile, TheSettingsMayNameIt) {
-  std::filesystem::create_directory("c");
-  Folder.Write("c/local", "[Notes]\nDBTYPE=local\n");
-  Folder.Write("network", "[Notes]\nDBTYPE=network\n");
-  // The built-in list has no such entry.
-  for (const auto& [network, local, type] :
-       {std::tuple("network", "C:\\local", "network"), {"missing", "C:\\local", "local"}, {"", "C:\\missing", ""}}) {
-    DataList list({{}, Folder.Path()});
-    list.SetNetWorkDListPath(network);
-    list.SetLocalDListPath(local);
-    EXPECT_EQ(list.DgetDLIST("notes", 0), *type == '\0' ? failures::InvalidCall : 0) << network;
-    EXPECT_EQ(list.DBTYPE(), type);
-  }
-}
 
 TEST(DrivePath, ALetterIsAFolderThatNothingLeaves) {
   const std::pair<const char*, std::optional<std::filesystem::path>> cases[] = {
