@@ -1,12 +1,4 @@
-#include <filesystem>
-#include <functional>
-#include <memory>
 #include <sstream>
-#include <string>
-#include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "OrlinCustomDialogs/hosts/script/script_host.h"
 #include "OrlinCustomDialogs/platform/standard_platform.h"
@@ -14,6 +6,7 @@
 #include "app/account/account.h"
 #include "app/calls/call.h"
 #include "app/calls/installed_platform.h"
+#include "support/frame_fixture.h"
 #include "support/temporary_folder.h"
 #include "support/windows_of_tests.h"
 
@@ -24,12 +17,11 @@ namespace {
 
 using Calls = std::vector<std::size_t>;  // parameters of the account
 
-/// Stands before the host of a script, and makes calls where a dialog is about to be worked and before each message.
-class NestingHost final : public DialogHost {
+/// Stands before another host, and makes calls where a dialog is about to be worked and before each message.
+class NestingHost final : public OperatorHost {
  public:
   explicit NestingHost(std::shared_ptr<DialogHost> host) : host_(std::move(host)) {}
 
-  [[nodiscard]] SizeInTwips Screen() const override { return host_->Screen(); }
   void ShowModal(shown::Dialog& dialog) override {
     Nest(OnShow);
     host_->ShowModal(dialog);
@@ -38,7 +30,6 @@ class NestingHost final : public DialogHost {
     Nest(OnMessage);
     return host_->ShowMessage(message);
   }
-  void Beep() override { host_->Beep(); }
   void HandlerFailed(const shown::Dialog& dialog, std::string_view handler, const Failure& failure) override {
     host_->HandlerFailed(dialog, handler, failure);
   }

@@ -3,7 +3,6 @@
 #include <map>
 #include <sstream>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -16,18 +15,6 @@
 namespace orlin::testing {
 namespace {
 
-/// The words of a line that stand in backticks.
-std::vector<std::string> Quoted(std::string_view line) {
-  std::vector<std::string> words;
-  for (auto at = line.find('`'); at != std::string_view::npos; at = line.find('`', at)) {
-    const auto end = line.find('`', at + 1);
-    if (end == std::string_view::npos) break;
-    words.emplace_back(line.substr(at + 1, end - at - 1));
-    at = end + 1;
-  }
-  return words;
-}
-
 /// As `orlin-host list` writes it: "vType*" comes back changed, "Index:Integer" takes that type, "Last?" may be left
 /// out.
 std::string Shape(const Parameter& parameter) {
@@ -38,17 +25,21 @@ std::string Shape(const Parameter& parameter) {
 
 using Page = std::map<std::string, std::vector<std::string>>;
 
-/// The parameters of each class, in the order of the page.
+/// The parameters of each class, in the order of the page. Every other part between backticks is what they quote.
 Page ReadPage(std::istream& lines) {
   Page page;
   std::vector<std::string> classes;
   for (std::string line; std::getline(lines, line);) {
-    if (line.starts_with("#")) {
-      classes = line.starts_with("### ") ? Quoted(line) : std::vector<std::string>();
-      for (const auto& name : classes) EXPECT_TRUE(page.emplace(name, std::vector<std::string>()).second) << name;
-    } else if (line.starts_with("| `")) {
-      for (const auto& name : classes) page[name].push_back(Quoted(line).at(0));
+    std::vector<std::string> parts;
+    std::istringstream split(line);
+    for (std::string part; std::getline(split, part, '`');) parts.push_back(part);
+    if (line.starts_with("#")) classes.clear();
+    for (std::size_t i = 1; line.starts_with("### ") && i < parts.size(); i += 2) {
+      classes.push_back(parts[i]);
+      EXPECT_TRUE(page.try_emplace(parts[i]).second) << parts[i];
     }
+    if (!line.starts_with("| `")) continue;
+    for (const auto& name : classes) page[name].push_back(parts.at(1));
   }
   return page;
 }

@@ -1,10 +1,6 @@
 #include "frame/values/conversions.h"
 
 #include <cmath>
-#include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "support/frame_fixture.h"
 
@@ -64,7 +60,7 @@ TEST(Texts, AreMadeFromNumbersAndParts) {
                                          Mid("a\u00E4c", 2, 1)};
   EXPECT_EQ(made, (std::vector<std::string>{"", "-5", "248", "0.1", "1e+300", "0", "F8", "07", "123", "", "bc", "",
                                             "\u00E4"}));
-  EXPECT_EQ(FailureOf([] { static_cast<void>(ToText(Array())); }), failures::TypeMismatch);
+  EXPECT_EQ(FailureOf([] { return ToText(Array()); }), failures::TypeMismatch);
 }
 
 TEST(Values, KeepTheirKindAndTheirBounds) {
@@ -73,8 +69,7 @@ TEST(Values, KeepTheirKindAndTheirBounds) {
   Array array({"a", std::int16_t{1}}, 3);
   EXPECT_EQ(array.UpperBound(), 4);
   EXPECT_EQ(array.At(4), Value(std::int16_t{1}));
-  EXPECT_EQ(FailureOf([&] { static_cast<void>(array.At(2)); }), failures::SubscriptOutOfRange);
-  EXPECT_EQ(FailureOf([&] { static_cast<void>(array.At(5)); }), failures::SubscriptOutOfRange);
+  for (const int beyond : {2, 5}) EXPECT_EQ(FailureOf([&] { return array.At(beyond); }), failures::SubscriptOutOfRange);
   EXPECT_EQ(Array({}, 1).UpperBound(), 0);
   Value copy(array);
   copy.Get<Array>()->At(3) = "b";

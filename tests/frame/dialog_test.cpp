@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "OrlinCustomDialogs/host/form.h"
+
 #include "form_fixture.h"
 
 namespace orlin::testing {
@@ -153,6 +155,40 @@ TEST_F(FormTest, LabelNamesTheVisibleControlBehindIt) {
   EXPECT_EQ(lblTurns.Names(), &txtTurn);
   EXPECT_EQ(lblDigit[1].Names(), &cmbDigit[1]);
   EXPECT_EQ(lblLast.Names(), &optBare);
+}
+
+TEST_F(FormTest, UnitsAndAlternativesStandWithTheirField) {
+  Label lblA(Form, "lblA", "Time:");
+  TextBox txtHour(Form, "txtHour");
+  Label lblColon(Form, "lblColon", ":", Label::Separator);
+  TextBox txtMinute(Form, "txtMinute");
+  Label lblUnit(Form, "lblUnit", "any length, in any language:", Label::Unit);
+  UpDown udTime(Form, "udTime");
+  ComboBox cmbOther(Form, "cmbOther");
+  Label lblB(Form, "lblB", "List:");
+  TextBox txtB(Form, "txtB", {.Common = {.Visible = false}});
+  ListBox lstB(Form, "lstB", {.HasHeading = true, .Common = {.Visible = false}});
+  Button cmdMore(Form, "cmdMore", "More");
+  OKButton cmdOK(Form, "OK");
+  CancelButton cmdCancel(Form, "Cancel");
+  lstB.AddItem("Heading");
+  const auto form = FormOf(Form);
+  const auto names = [](const FormLine& line) {
+    std::string all;
+    for (const auto* control : line) all.append(all.empty() ? "" : " ").append(control->Name());
+    return all;
+  };
+  ASSERT_EQ(form.Body.size(), 2U);
+  EXPECT_EQ(form.Body[0].Label, &lblA);
+  ASSERT_EQ(form.Body[0].Lines.size(), 2U);
+  EXPECT_EQ(names(form.Body[0].Lines[0]), "txtHour lblColon txtMinute udTime lblUnit");
+  EXPECT_EQ(names(form.Body[0].Lines[1]), "cmbOther");
+  EXPECT_EQ(form.Body[1].What, FormRow::Kind::Tall);
+  EXPECT_EQ(form.Body[1].Label, &lblB) << "also while nothing behind it is visible";
+  EXPECT_FALSE(form.Labels.contains(&lstB)) << "its heading names it";
+  EXPECT_EQ(form.NameOf(txtB) + form.NameOf(lstB), "List:Heading") << "as a screen reader says it";
+  EXPECT_EQ(names(form.LeftButtons), "cmdMore");
+  EXPECT_EQ(names(form.RightButtons), "cmdOK cmdCancel");
 }
 
 TEST_F(DialogTest, CodeMovesTheFocusOutOfReachOrOn) {

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "frame/dialog/dialog.h"
 #include "support/frame_fixture.h"
 
 namespace orlin::testing {

@@ -3,6 +3,7 @@
 #include "OrlinCustomDialogs/exports.h"
 
 #include "frame/classes/public_class_of.h"
+#include "frame/dialog/rights.h"
 #include "support/frame_fixture.h"
 
 namespace orlin::testing {
@@ -25,13 +26,11 @@ const PublicClass& Sample() {
 }
 
 TEST(PublicClass, DescribesItsParameters) {
-  const auto& parameters = Sample().Parameters();
-  std::string described;
-  for (const auto& one : parameters) described += one.Name + (one.Changes ? "& " : " ");
-  EXPECT_EQ(described, "shown number& text& flag word ");
-  EXPECT_EQ(parameters.at(1).Kind, ParameterKind::Integer);
-  EXPECT_EQ(parameters.at(3).Kind, ParameterKind::Boolean);
-  EXPECT_EQ(parameters.at(4).Kind, ParameterKind::String);
+  std::string told;
+  for (const auto& one : Sample().Parameters()) {
+    told.append(one.Name).append(one.Changes ? "& " : " ").append(KindName(one.Kind)).append(", ");
+  }
+  EXPECT_EQ(told, "shown Any, number& Integer, text& Any, flag Boolean, word String, ");
 }
 
 TEST(PublicClass, ConvertsCallsAndWritesBackOrRefusesBeforeAnythingIsDone) {
@@ -69,9 +68,9 @@ TEST(PublicClass, KeepsStoredValuesByTheUsualRuleOrItsOwn) {
   EXPECT_FALSE(own.Confirmed(2, stored));
   EXPECT_EQ(own.StoredFrom(stored, returned), (std::vector<Value>{"x", one, "old", false, "new"}));
 
-  EXPECT_EQ(FailureOf([&] { static_cast<void>(own.ArgumentsFrom({})); }), failures::InvalidCall);
-  EXPECT_EQ(FailureOf([&] { static_cast<void>(own.Confirmed(2, {})); }), failures::InvalidCall);
-  EXPECT_EQ(FailureOf([&] { static_cast<void>(own.StoredFrom(stored, {})); }), failures::InvalidCall);
+  EXPECT_EQ(FailureOf([&] { return own.ArgumentsFrom({}); }), failures::InvalidCall);
+  EXPECT_EQ(FailureOf([&] { return own.Confirmed(2, {}); }), failures::InvalidCall);
+  EXPECT_EQ(FailureOf([&] { return own.StoredFrom(stored, {}); }), failures::InvalidCall);
 }
 
 class LateBinding : public FrameTest {
@@ -141,11 +140,9 @@ TEST_F(LateBinding, ListsAreWorkedByName) {
     EXPECT_EQ(Call(*list, "NewEnum"), Value(Array({added, Call(*list, "Item", {"b"})}, 1)));
 
     const auto form = Call(*list, "Serialize");
-    for (const auto* filled : {"Copy", "DeSerialize"}) {
-      const auto other = Make(name);
-      EXPECT_EQ(Call(*other, filled, {*filled == 'C' ? Value(list) : form}), Value());
-      EXPECT_EQ(Call(*other, "Serialize"), form) << filled;
-    }
+    const auto copy = Make(name), read = Make(name);
+    EXPECT_EQ(Call(*copy, "Copy", {list}), Call(*read, "DeSerialize", {form}));
+    for (const auto& other : {copy, read}) EXPECT_EQ(Call(*other, "Serialize"), form);
     EXPECT_EQ(Call(*list, "Remove", {"a"}), Value());
     EXPECT_EQ(list->Get("Count"), Value(1));
 
@@ -160,24 +157,25 @@ TEST_F(LateBinding, ListsAreWorkedByName) {
     } else {
       EXPECT_EQ(Call(*list, "Add", {"B"}), Value(ObjectPtr()));
     }
-    EXPECT_EQ(FailureOf([&] { Call(*list, "Add"); }), failures::InvalidCall);
-    EXPECT_EQ(FailureOf([&] { Call(*list, "Item", {1, 2}); }), failures::InvalidCall);
-    EXPECT_EQ(FailureOf([&] { Call(*list, "Clear"); }), failures::InvalidCall);
-    EXPECT_EQ(FailureOf([&] { Call(*list, "Copy", {1}); }), failures::ObjectRequired);
-    EXPECT_EQ(FailureOf([&] { Call(*list, "Copy", {added}); }), failures::TypeMismatch);
-    EXPECT_EQ(DllCanUnloadNow(), 1);
+    const std::tuple<const char*, std::vector<Value>, int> refused[] = {{"Add", {}, failures::InvalidCall},
+                                                                        {"Item", {1, 2}, failures::InvalidCall},
+                                                                        {"Clear", {}, failures::InvalidCall},
+                                                                        {"Copy", {1}, failures::ObjectRequired},
+                                                                        {"Copy", {added}, failures::TypeMismatch}};
+    for (const auto& [operation, arguments, failure] : refused) {
+      EXPECT_EQ(FailureOf([&, &what = operation, &given = arguments] { Call(*list, what, given); }), failure);
+    }
   }
   std::vector<Value> review{Array(), Array(), std::make_shared<SecurityLevels>(), 49, false};
   EXPECT_EQ(Make("clsErrorMessageNova")->Invoke("Display", review), Value(0));
 }
 
 TEST_F(FrameTest, PublicClassesAreFoundByNameAndCreatedOnceRegistered) {
-  EXPECT_NE(FindPublicClass("clsZoneFunctionsBirch"), nullptr);
-  EXPECT_EQ(FindPublicClass("OrlinCustomDialogs.clsZoneFunctionsBirch"), FindPublicClass("clsZoneFunctionsBirch"));
+  const std::string name = "OrlinCustomDialogs.clsZoneFunctionsWillow";
+  EXPECT_NE(FindPublicClass(name), nullptr);
+  EXPECT_EQ(FindPublicClass(name), FindPublicClass("clsZoneFunctionsWillow"));
   EXPECT_EQ(FindPublicClass("clsUnknown"), nullptr);
-
-  const char* name = "OrlinCustomDialogs.clsZoneFunctionsWillow";
-  EXPECT_EQ(FailureOf([&] { static_cast<void>(CreateObject(name)); }), failures::CannotCreateObject);
+  EXPECT_EQ(FailureOf([&] { return CreateObject(name); }), failures::CannotCreateObject);
   DllRegisterServer();
   {
     const auto object = std::dynamic_pointer_cast<LateBoundObject>(CreateObject(name));
@@ -189,7 +187,7 @@ TEST_F(FrameTest, PublicClassesAreFoundByNameAndCreatedOnceRegistered) {
   }
   EXPECT_EQ(DllCanUnloadNow(), 0);
   DllUnregisterServer();
-  EXPECT_EQ(FailureOf([&] { static_cast<void>(CreateObject(name)); }), failures::CannotCreateObject);
+  EXPECT_EQ(FailureOf([&] { return CreateObject(name); }), failures::CannotCreateObject);
 }
 
 }  // namespace

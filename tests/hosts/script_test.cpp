@@ -1,10 +1,9 @@
 #include "OrlinCustomDialogs/hosts/script/script.h"
 
 #include <functional>
-#include <string>
 #include <vector>
 
-#include <gtest/gtest.h>
+#include "support/temporary_folder.h"
 
 namespace orlin::testing {
 namespace {
@@ -19,12 +18,7 @@ Kind Only(const std::string& text) {
 }
 
 std::string ErrorIn(const std::string& text) {
-  try {
-    static_cast<void>(ParseScript(text));
-  } catch (const ScriptError& error) {
-    return error.what();
-  }
-  return {};
+  return ErrorOf<ScriptError>([&] { return ParseScript(text); });
 }
 
 TEST(Script, KnowsTheKeys) {
@@ -60,10 +54,9 @@ TEST(Script, ReadsTextsWithTheirEscapes) {
 TEST(Script, KeepsTheNumberAndTheSourceOfALine) {
   const auto script =
       ParseScript("\xEF\xBB\xBF# a comment\r\n\r\n \t click\tcmdA # press it\r\ntype txtA \"#\"#\n  close");
-  std::vector<std::pair<int, std::string>> lines;
-  for (const auto& action : script) lines.emplace_back(action.Line, action.Source);
-  EXPECT_EQ(lines,
-            (std::vector<std::pair<int, std::string>>{{3, "click\tcmdA"}, {4, "type txtA \"#\""}, {5, "close"}}));
+  std::string lines;
+  for (const auto& action : script) lines += std::to_string(action.Line) + ": " + action.Source + '\n';
+  EXPECT_EQ(lines, "3: click\tcmdA\n4: type txtA \"#\"\n5: close\n");
   EXPECT_TRUE(ParseScript("").empty());
 }
 

@@ -1,9 +1,9 @@
 #include <iostream>
 #include <memory>
 
-#include <OrlinCustomDialogs/hosts/script/script_host.h>
-#include <OrlinCustomDialogs/platform/standard_platform.h>
-#include <OrlinCustomDialogs/zones.h>
+#include "OrlinCustomDialogs/hosts/script/script_host.h"
+#include "OrlinCustomDialogs/platform/standard_platform.h"
+#include "OrlinCustomDialogs/zones.h"
 
 // An operator made of text edits a parameter, with the stand-ins around the library.
 int main() {

@@ -2,9 +2,9 @@
 #include <QTimer>
 #include <memory>
 
-#include <OrlinCustomDialogs/hosts/qt/qt_host.h>
-#include <OrlinCustomDialogs/platform/standard_platform.h>
-#include <OrlinCustomDialogs/zones.h>
+#include "OrlinCustomDialogs/hosts/qt/qt_host.h"
+#include "OrlinCustomDialogs/platform/standard_platform.h"
+#include "OrlinCustomDialogs/zones.h"
 
 // A window opens, and its close box cancels the call.
 int main(int count, char** arguments) {

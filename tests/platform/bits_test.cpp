@@ -5,6 +5,8 @@
 namespace orlin::testing {
 namespace {
 
+constexpr auto kMost = INT32_MAX;
+
 TEST(Bits, AreReadFromTheLeastSignificantOne) {
   const struct {
     std::int16_t Value;
@@ -16,30 +18,20 @@ TEST(Bits, AreReadFromTheLeastSignificantOne) {
 }
 
 TEST(Bits, AreStoredWithoutTouchingTheOthers) {
-  const struct {
+  struct Case {
     std::int16_t Value;
-    std::int32_t Bit;
-    std::int32_t Count;
+    std::int32_t Bit, Count;
     std::int16_t New;
     int After;
-  } cases[] = {{0, 3, 1, 1, 8},
-               {0x7F, 3, 1, 0, 0x77},
-               {0, 3, 1, 2, 0},
-               {0, 15, 1, 1, -32768},
-               {-1, 15, 1, 0, 0x7FFF},
-               {0x0F, 2, 2, 1, 0x07},
-               {0, 14, 4, 13, 0x4000},
-               {5, 0, 0, 7, 5},
-               {5, 0, -1, 7, 5},
-               {5, 16, 1, 1, 5},
-               {5, -1, 1, 1, 5},
-               {0, -1, 2, 2, 1},
-               {5, INT32_MAX, INT32_MAX, -1, 5},
-               {0, 0, INT32_MAX, -2, -2}};
-  for (auto one : cases) {
-    const auto before = one.Value;
-    Bits().BitPack0(one.Value, one.Bit, one.Count, one.New);
-    EXPECT_EQ(one.Value, one.After) << before << " " << one.Bit << " " << one.Count << " " << one.New;
+  };
+  const Case cases[] = {{0, 3, 1, 1, 8},          {0x7F, 3, 1, 0, 0x77}, {0, 3, 1, 2, 0},       {0, 15, 1, 1, -32768},
+                        {-1, 15, 1, 0, 32767},    {0x0F, 2, 2, 1, 7},    {0, 14, 4, 13, 16384}, {5, 0, 0, 7, 5},
+                        {5, 0, -1, 7, 5},         {5, 16, 1, 1, 5},      {5, -1, 1, 1, 5},      {0, -1, 2, 2, 1},
+                        {5, kMost, kMost, -1, 5}, {0, 0, kMost, -2, -2}};
+  for (auto [value, bit, count, replacement, after] : cases) {
+    const auto before = value;
+    Bits().BitPack0(value, bit, count, replacement);
+    EXPECT_EQ(value, after) << before << " " << bit << " " << count << " " << replacement;
   }
 }
 

@@ -2,7 +2,8 @@
 
 #include <tuple>
 
-#include "platform/platform_fixture.h"
+#include "support/frame_fixture.h"
+#include "support/temporary_folder.h"
 
 namespace orlin::testing {
 namespace {
@@ -14,33 +15,30 @@ class FaultLogTest : public FolderTest {
     FaultLog log(Options);
     log.SetAppName("Tolmar");
     log.SetAppVersion("1.2.3");
-    log.SetWarningLevel(4);
     log.SetAppErrorFile("Tolmar.err");
     log.Add({13, "05/01/25", "12:00:00", "modGeneral", "GetLocalText()", 4});
     log.SetAddlText(additionalText);
     return log;
   }
 
-  std::shared_ptr<MessageHost> Host = std::make_shared<MessageHost>();
+  std::shared_ptr<OperatorHost> Host = std::make_shared<OperatorHost>();
   std::vector<LoggedFault> Logged;
   FaultLogOptions Options{Host, std::make_shared<FaultFile>(),
                           [this](const LoggedFault& fault) { Logged.push_back(fault); }};
 };
 
-constexpr const char* kLine =
-    "time=05/01/25 12:00:00\tapp=Tolmar 1.2.3\tlevel=4\tnumber=13\tmodule=modGeneral\tprocedure=GetLocalText()\ttext=";
-
-TEST_F(FaultLogTest, AppendsOneLineForEachRecord) {
+TEST_F(FaultLogTest, AppendsOneLineForEachRecordToTheFileOfTheLibraryOrOfItsOptions) {
+  const std::string line =
+      "time=05/01/25 12:00:00\tapp=Tolmar "
+      "1.2.3\tlevel=4\tnumber=13\tmodule=modGeneral\tprocedure=GetLocalText()\ttext=";
   Filled("").LogError();
   Filled("a\tb\r\nc\\d\x1B\x7F\xC3\xA4").LogError();
-  EXPECT_EQ(Read("Tolmar.err"), std::string(kLine) + "\n" + kLine + "a\\tb\\r\\nc\\\\d\\x1B\\x7F\xC3\xA4" + "\n");
-}
-
-TEST_F(FaultLogTest, WritesToTheFileOfItsOptions) {
+  const auto both = line + "\n" + line + "a\\tb\\r\\nc\\\\d\\x1B\\x7F\xC3\xA4" + "\n";
+  EXPECT_EQ(ContentOf("Tolmar.err"), both);
   Options.File = std::make_shared<FaultFile>("faults.log");
   Filled("x").LogError();
-  EXPECT_EQ(Read("faults.log"), std::string(kLine) + "x\n");
-  EXPECT_FALSE(std::filesystem::exists("Tolmar.err"));
+  EXPECT_EQ(ContentOf("faults.log"), line + "x\n");
+  EXPECT_EQ(ContentOf("Tolmar.err"), both);
 }
 
 TEST_F(FaultLogTest, WarnsOnceWhereTheFileCannotBeWritten) {
@@ -53,38 +51,35 @@ TEST_F(FaultLogTest, WarnsOnceWhereTheFileCannotBeWritten) {
   EXPECT_EQ(Logged.size(), 2U);
 }
 
-TEST_F(FaultLogTest, ShowsTheRecordAsAWarning) {
-  Filled("It went wrong.").MsgBox();
-  Filled("").MsgBox();
-  ASSERT_EQ(Host->Messages.size(), 2U);
-  EXPECT_EQ(Host->Messages[0].Text, "It went wrong.\n\nFailure 13 in modGeneral.GetLocalText()");
-  EXPECT_EQ(Host->Messages[0].Flags, 48);
-  EXPECT_EQ(Host->Messages[0].Title, "Tolmar");
-  EXPECT_EQ(Host->Messages[1].Text, "Failure 13 in modGeneral.GetLocalText()");
-}
-
-TEST_F(FaultLogTest, TellsWhatWasLoggedAndWhetherItWasShown) {
-  auto log = Filled("why");
+TEST_F(FaultLogTest, ShowsTheRecordAndTellsWhatWasLogged) {
+  Host->AnswersAll = true;
+  auto log = Filled("It went wrong.");
   log.LogError();
   log.MsgBox();
   log.LogError();
-  ASSERT_EQ(Logged.size(), 2U);
-  const auto& [number, module, procedure, additionalText, shown] = Logged[0];
-  EXPECT_EQ(std::tie(number, module, procedure, additionalText, shown),
-            std::tuple(13, "modGeneral", "GetLocalText()", "why", false));
-  EXPECT_TRUE(Logged[1].Shown);
-
   log.Add({6, "", "", "m", "p", 0});
   log.LogError();
-  EXPECT_EQ(Logged[2].Number, 6);
-  EXPECT_EQ(Logged[2].AdditionalText, "");
-  EXPECT_FALSE(Logged[2].Shown);
-
+  log.MsgBox();
   Options.Host = nullptr;
   auto unseen = Filled("x");
   unseen.MsgBox();
   unseen.LogError();
-  EXPECT_FALSE(Logged[3].Shown);
+  using Told = std::tuple<int, std::string, std::string, std::string, bool>;
+  const Told expected[] = {{13, "modGeneral", "GetLocalText()", "It went wrong.", false},
+                           {13, "modGeneral", "GetLocalText()", "It went wrong.", true},
+                           {6, "m", "p", "", false},
+                           {13, "modGeneral", "GetLocalText()", "x", false}};
+  ASSERT_EQ(Logged.size(), std::size(expected));
+  for (std::size_t i = 0; i < Logged.size(); ++i) {
+    const auto& [number, module, procedure, text, shown] = Logged[i];
+    EXPECT_EQ(Told(number, module, procedure, text, shown), expected[i]);
+  }
+  ASSERT_EQ(Host->Messages.size(), 2U);
+  const auto& [text, flags, title] = Host->Messages[0];
+  EXPECT_EQ(text, "It went wrong.\n\nFailure 13 in modGeneral.GetLocalText()");
+  EXPECT_EQ(flags, 48);
+  EXPECT_EQ(title, "Tolmar");
+  EXPECT_EQ(Host->Messages[1].Text, "Failure 6 in m.p");
 }
 
 TEST_F(FaultLogTest, ForgetsARecordThatIsCleared) {
@@ -93,7 +88,6 @@ TEST_F(FaultLogTest, ForgetsARecordThatIsCleared) {
   log.SetAddlText("y");
   log.MsgBox();
   log.LogError();
-  EXPECT_TRUE(Host->Messages.empty());
   EXPECT_TRUE(Logged.empty());
   EXPECT_FALSE(std::filesystem::exists("Tolmar.err"));
 }

@@ -6,23 +6,14 @@
 #include <QLineEdit>
 #include <QSettings>
 #include <QTableWidget>
-#include <cstddef>
-#include <filesystem>
 #include <functional>
-#include <initializer_list>
 #include <map>
-#include <string>
-#include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "app/account/account.h"
 #include "app/account/account_command.h"
+#include "support/frame_fixture.h"
 #include "support/temporary_folder.h"
 #include "support/windows_of_tests.h"
-
-// The window of an account as an operator at the keyboard works it.
 
 namespace orlin::testing {
 namespace {

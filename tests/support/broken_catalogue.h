@@ -5,6 +5,7 @@
 #include "OrlinCustomDialogs/platform/standard_platform.h"
 
 #include "catalogue/text_catalogue.h"
+#include "frame/dialog/dialog.h"
 #include "frame/services/services.h"
 #include "support/frame_fixture.h"
 #include "support/temporary_folder.h"
@@ -15,23 +16,30 @@ namespace orlin::testing {
 class BrokenCatalogueTest : public ::testing::Test {
  protected:
   BrokenCatalogueTest() {
-    StandardPlatformOptions options;
-    options.Host = Host;
-    options.FaultFile = Folder.Path() / "Tolmar.err";
-    options.Now = "2025-03-31 14:07:09";
-    options.OnFaultLogged = [this](const LoggedFault& fault) {
+    Options.Host = Host;
+    Options.DrivesFolder = Folder.Path();
+    Options.FaultFile = Folder.Path() / "Tolmar.err";
+    Options.Now = "2025-03-31 14:07:09";
+    Options.OnFaultLogged = [this](const LoggedFault& fault) {
       Faults.push_back(fault.Module + " " + fault.Procedure + " " + std::to_string(fault.Number));
     };
-    auto platform = StandardPlatform(options);
-    platform.Components["LocalText.clsLocalText"] = [this] { return std::make_shared<Catalogue>(FailsFor); };
-    UsePlatform(std::move(platform));
+    Install();
   }
   ~BrokenCatalogueTest() override { UsePlatform({}); }
+
+  /// Has the library use the stand-ins as the options make them.
+  void Install() {
+    Parts = StandardPlatform(Options);
+    Parts.Components["LocalText.clsLocalText"] = [this] { return std::make_shared<Catalogue>(FailsFor); };
+    UsePlatform(Parts);
+  }
 
   TemporaryFolder Folder;
   std::shared_ptr<OperatorHost> Host = std::make_shared<OperatorHost>();
   int FailsFor = 0;
   Log Faults;
+  StandardPlatformOptions Options;
+  Platform Parts;
 
  private:
   class Catalogue : public TextCatalogue {

@@ -7,6 +7,7 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -29,6 +30,9 @@ using Json = nlohmann::ordered_json;
 
 /// 5 as an Integer; a plain 5 is a Long.
 inline Value Integer(int number) { return static_cast<std::int16_t>(number); }
+
+/// The words of a line, which has a blank between them.
+std::vector<std::string> SplitAtBlanks(const std::string& line);
 
 /// The English text with that number, with a variable of it filled in.
 std::string Text(int number, const std::string& variable = {}, const std::string& value = {});

@@ -3,13 +3,12 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "OrlinCustomDialogs/platform.h"
-
-#include "frame/dialog/dialog.h"
 
 namespace orlin::testing {
 
@@ -19,7 +18,6 @@ using Log = std::vector<std::string>;
 /// what happens. A message that nobody expected fails the test, and so does an answer that is left over.
 class OperatorHost : public DialogHost {
  public:
-  OperatorHost() = default;
   ~OperatorHost() override { EXPECT_TRUE(Answers.empty()) << "answers are left over"; }
 
   [[nodiscard]] SizeInTwips Screen() const override { return {15360, 11520}; }
@@ -31,9 +29,10 @@ class OperatorHost : public DialogHost {
   }
   int ShowMessage(const Message& message) override {
     Happened.push_back("message " + message.Text);
+    Messages.push_back(message);
     if (Answers.empty()) {
-      ADD_FAILURE() << "nobody expected the message: " << message.Text;
-      return answers::Ok;
+      EXPECT_TRUE(AnswersAll) << "nobody expected the message: " << message.Text;
+      return message.Flags == Message::YesNo ? answers::Yes : answers::Ok;
     }
     const int answer = Answers.front();
     Answers.erase(Answers.begin());
@@ -46,17 +45,22 @@ class OperatorHost : public DialogHost {
 
   std::function<void(shown::Dialog&)> Operate;
   std::vector<int> Answers;
+  bool AnswersAll = false;  ///< whatever comes, with OK or Yes
   Log Happened;
+  std::vector<Message> Messages;
 };
+
+/// Has this host show the dialogs, on a platform of nothing else.
+inline void UseHost(std::shared_ptr<DialogHost> host) {
+  Platform platform;
+  platform.Host = std::move(host);
+  UsePlatform(std::move(platform));
+}
 
 /// Tests that need a host, and nothing else of a platform.
 class FrameTest : public ::testing::Test {
  protected:
-  FrameTest() {
-    Platform platform;
-    platform.Host = Host;
-    UsePlatform(std::move(platform));
-  }
+  FrameTest() { UseHost(Host); }
   ~FrameTest() override { UsePlatform({}); }
 
   std::shared_ptr<OperatorHost> Host = std::make_shared<OperatorHost>();
@@ -66,7 +70,7 @@ class FrameTest : public ::testing::Test {
 template <class Statement>
 std::int32_t FailureOf(Statement statement) {
   try {
-    statement();
+    static_cast<void>(statement());
   } catch (const Failure& failure) {
     return failure.Number();
   }

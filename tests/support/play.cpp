@@ -7,6 +7,8 @@
 
 #include "app/calls/arguments.h"
 #include "app/calls/edit.h"
+#include "app/calls/value_text.h"
+#include "app/usage/usage_error.h"
 #include "catalogue/text_catalogue.h"
 #include "support/dialog_test.h"
 #include "support/temporary_folder.h"
@@ -15,36 +17,11 @@
 namespace orlin {
 
 void PrintTo(const Value& value, std::ostream* out) {
-  switch (value.kind()) {
-    case Value::Kind::Empty:
-      *out << "empty";
-      break;
-    case Value::Kind::Integer:
-      *out << *value.Get<std::int16_t>();
-      break;
-    case Value::Kind::Long:
-      *out << *value.Get<std::int32_t>() << 'L';
-      break;
-    case Value::Kind::Double:
-      *out << *value.Get<double>() << 'D';
-      break;
-    case Value::Kind::Boolean:
-      *out << (*value.Get<bool>() ? "true" : "false");
-      break;
-    case Value::Kind::String:
-      *out << ::testing::PrintToString(*value.Get<std::string>());
-      break;
-    case Value::Kind::Array:
-      *out << '[';
-      for (const auto& element : value.Get<Array>()->Elements()) {
-        PrintTo(element, out);
-        *out << ',';
-      }
-      *out << ']';
-      break;
-    case Value::Kind::Object:
-      *out << "object";
-      break;
+  try {
+    const auto* array = value.Get<Array>();
+    *out << FormatValue(array != nullptr ? Array(array->Elements()) : value);
+  } catch (const UsageError& error) {
+    *out << KindName(value.kind()) << ": " << error.what();
   }
 }
 
@@ -99,14 +76,15 @@ Played RunIn(EditorCall call, const PlayOptions& options) {
   return played;
 }
 
-DialogRun Told(Played played, const std::vector<Parameter>& parameters, std::ptrdiff_t answers,
-               const PlayOptions& options) {
-  DialogRun run{ReadLines(played.Trace), played.Came.Result, played.Came.Raised, {}};
-  for (std::size_t i = 0; i < parameters.size(); ++i) {
-    run.Arguments[parameters[i].Name] = std::move(played.Came.Arguments[i]);
+/// Makes the call in windows, on copies: what it stores there is not there for the next one.
+std::string TraceIn(WindowSystem& windows, EditorCall call, PlayOptions options) {
+  call.Windows = &windows;
+  const TemporaryFolder drives;
+  if (options.Drives && std::filesystem::exists(*options.Drives)) {
+    std::filesystem::copy(*options.Drives, drives.Path(), std::filesystem::copy_options::recursive);
   }
-  Check(run, answers, options.MayRefuse);
-  return run;
+  if (options.Drives) options.Drives = drives.Path();
+  return RunIn(std::move(call), options).Trace;
 }
 
 const Json& Nth(const std::vector<Json>& lines, std::optional<std::size_t> number) {
@@ -144,36 +122,32 @@ Json DialogRun::Control(const std::string& name, std::optional<std::size_t> dump
 
 Json DialogRun::Focus(std::optional<std::size_t> dump) const { return Nth(Events("state"), dump).at("focus"); }
 
+std::vector<std::string> SplitAtBlanks(const std::string& line) {
+  std::vector<std::string> words;
+  std::istringstream stream(line);
+  for (std::string word; std::getline(stream, word, ' ');) words.push_back(word);
+  return words;
+}
+
 DialogRun Play(std::string_view publicClass, const std::vector<std::string>& arguments, std::string_view script,
                const PlayOptions& options) {
   const auto* called = FindPublicClass(publicClass);
   if (called == nullptr) throw std::invalid_argument("no public class " + std::string(publicClass));
   const auto& parameters = called->Parameters();
   EditorCall call{*called, BindArguments(*called, arguments, options.Levels), ParseScript(script), false, {}};
-  for (std::size_t i = 0; i < parameters.size(); ++i) {
-    const auto object = options.Objects.find(parameters[i].Name);
-    if (object != options.Objects.end()) call.Arguments[i] = object->second;
-  }
+  for (const auto& [name, object] : options.Objects) call.Arguments[PlaceOf(*called, name)] = object;
   const auto answers = std::count_if(call.Script->begin(), call.Script->end(), [](const Action& action) {
     return std::holds_alternative<actions::Answer>(action.Do);
   });
 
-  if (auto* windows = WindowsOfTests()) {
-    auto inWindows = call;
-    inWindows.Windows = windows;
-    // What the call stores is not there for the second one.
-    const TemporaryFolder drives;
-    auto copied = options;
-    if (options.Drives && std::filesystem::exists(*options.Drives)) {
-      std::filesystem::copy(*options.Drives, drives.Path(), std::filesystem::copy_options::recursive);
-    }
-    if (options.Drives) copied.Drives = drives.Path();
-    const auto seen = RunIn(std::move(inWindows), copied);
-    auto played = RunIn(std::move(call), options);
-    EXPECT_EQ(seen.Trace, played.Trace) << "in windows, and without";
-    return Told(std::move(played), parameters, answers, options);
-  }
-  return Told(RunIn(std::move(call), options), parameters, answers, options);
+  std::optional<std::string> inWindows;
+  if (auto* windows = WindowsOfTests()) inWindows = TraceIn(*windows, call, options);
+  auto [came, trace] = RunIn(std::move(call), options);
+  EXPECT_EQ(inWindows.value_or(trace), trace) << "in windows, and without";
+  DialogRun run{ReadLines(trace), came.Result, came.Raised, {}};
+  for (std::size_t i = 0; i < parameters.size(); ++i) run.Arguments[parameters[i].Name] = std::move(came.Arguments[i]);
+  Check(run, answers, options.MayRefuse);
+  return run;
 }
 
 }  // namespace orlin::testing

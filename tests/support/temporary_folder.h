@@ -3,12 +3,18 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 
 #include <gtest/gtest.h>
 
 namespace orlin::testing {
+
+inline std::string ContentOf(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
 
 /// An empty folder that goes with its owner.
 class TemporaryFolder {
@@ -26,6 +32,7 @@ class TemporaryFolder {
 
   /// Writes a file of the folder; returns its path.
   std::filesystem::path Write(const std::string& name, const std::string& content) const {
+    std::filesystem::remove(path_ / name);  // some file systems take their time to overwrite
     std::ofstream(path_ / name, std::ios::binary) << content;
     return path_ / name;
   }
@@ -33,5 +40,28 @@ class TemporaryFolder {
  private:
   std::filesystem::path path_;
 };
+
+/// Tests that name files: each runs in an empty folder of its own.
+class FolderTest : public ::testing::Test {
+ protected:
+  FolderTest() { std::filesystem::current_path(Folder.Path()); }
+  ~FolderTest() override { std::filesystem::current_path(before_); }
+
+  TemporaryFolder Folder;
+
+ private:
+  std::filesystem::path before_ = std::filesystem::current_path();
+};
+
+/// What a statement throws as an `Error` tells; empty where it does not.
+template <class Error, class Statement>
+std::string ErrorOf(Statement statement) {
+  try {
+    static_cast<void>(statement());
+  } catch (const Error& error) {
+    return error.what();
+  }
+  return {};
+}
 
 }  // namespace orlin::testing

@@ -1,5 +1,6 @@
 #include "OrlinCustomDialogs/zones.h"
 
+#include "faultlog/fault_log.h"
 #include "support/broken_catalogue.h"
 #include "support/dialog_test.h"
 

@@ -5,11 +5,9 @@
 #include <iostream>
 #include <memory>
 #include <random>
-#include <string>
+#include <regex>
 #include <thread>
-#include <vector>
 
-#include <gtest/gtest.h>
 #include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -36,20 +34,13 @@ PostgresServer& Server() {
   return server;
 }
 
-struct Key {
-  std::string Guid = "P1";
-  std::string Header = "Service";
-};
-
-std::string Doubled(std::string text) {
-  for (auto at = text.find('\''); at != std::string::npos; at = text.find('\'', at + 2)) text.insert(at, 1, '\'');
-  return text;
+std::string QueryFor(const std::string& key) {
+  const auto doubled = std::regex_replace(key, std::regex("'"), "''");
+  return "SELECT * FROM [PanelNotes] WHERE [PanelGUID] = '" + doubled + "' AND [NoteHeader] = 'of " + doubled +
+         "' AND [NoteTypeID] = 3";
 }
 
-std::string QueryFor(const Key& key) {
-  return "SELECT * FROM [PanelNotes] WHERE [PanelGUID] = '" + Doubled(key.Guid) + "' AND [NoteHeader] = '" +
-         Doubled(key.Header) + "' AND [NoteTypeID] = 3";
-}
+constexpr const char* kKey = "P1";
 
 /// One program that works on the store, as the notes dialog does.
 class Program {
@@ -63,12 +54,12 @@ class Program {
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
-  std::int32_t Open(const Key& key, DListComponent::Mode mode) {
+  std::int32_t Open(DListComponent::Mode mode, const std::string& query = QueryFor(kKey)) {
     Close();
     list_.SetUserName(PostgresServer::kUser);
     list_.SetPassword(PostgresServer::kPassword);
     if (const auto failed = list_.DOPEN("PanelNotes", 0, db_); failed != 0) return failed;
-    return list_.CreateDynaWise(db_, rs_, QueryFor(key), 2, "PanelNotes", mode);
+    return list_.CreateDynaWise(db_, rs_, query, 2, "PanelNotes", mode);
   }
   void Close() {
     if (rs_ != nullptr) rs_->Close();
@@ -77,11 +68,11 @@ class Program {
     db_.reset();
   }
 
-  std::int32_t Begin(const Key& key, const std::string& memo) {
+  std::int32_t Begin(const std::string& memo, const std::string& key = kKey) {
     const auto failed = rs_->Eof() ? list_.AddNewDsWise(rs_, 2, "") : list_.EditDsWise(rs_, 2, "");
     if (failed != 0) return failed;
-    rs_->Fields("PanelGUID").SetValue(key.Guid);
-    rs_->Fields("NoteHeader").SetValue(key.Header);
+    rs_->Fields("PanelGUID").SetValue(key);
+    rs_->Fields("NoteHeader").SetValue("of " + key);
     rs_->Fields("NoteTypeID").SetValue(std::int32_t{3});
     rs_->Fields("Memo").SetValue(memo);
     return 0;
@@ -89,20 +80,20 @@ class Program {
   std::int32_t Update() { return list_.UpdateDsWise(rs_, 2, ""); }
   RecordsetField& Field(const std::string& name) { return rs_->Fields(name); }
 
-  std::int32_t Save(const Key& key, const std::string& memo) {
-    std::int32_t result = Open(key, DListComponent::Writing);
-    if (result == 0) result = Begin(key, memo);
+  std::int32_t Save(const std::string& memo, const std::string& key = kKey) {
+    std::int32_t result = Open(DListComponent::Writing, QueryFor(key));
+    if (result == 0) result = Begin(memo, key);
     if (result == 0) result = Update();
     Close();
     return result;
   }
-  std::int32_t Delete(const Key& key) {
-    const auto failed = Open(key, DListComponent::Writing);
+  std::int32_t Delete(const std::string& key = kKey) {
+    const auto failed = Open(DListComponent::Writing, QueryFor(key));
     return failed != 0 ? failed : list_.DeleteDsWise(rs_, 2, "");
   }
   /// Empty where there is no row.
-  Value Read(const Key& key) {
-    EXPECT_EQ(Open(key, DListComponent::Reading), 0);
+  Value Read(const std::string& key = kKey) {
+    EXPECT_EQ(Open(DListComponent::Reading, QueryFor(key)), 0);
     return rs_ == nullptr || rs_->Eof() ? Value() : rs_->Fields("memo").Value();
   }
 
@@ -114,45 +105,38 @@ class Program {
 
 /// A kind of store: its data list, and a way into it past the store.
 struct Kind {
-  std::string Name;
-  std::function<DataListEntry(const std::filesystem::path& file)> Entry;
-  std::function<std::shared_ptr<Connection>(const DataListEntry& entry, const std::filesystem::path& file)> Connect;
+  const char* Name;
+  const char* Type;
+  std::string (*Connect)(const std::filesystem::path& file);
 };
 
-std::shared_ptr<Connection> ConnectByOdbc(const DataListEntry& entry, const std::filesystem::path& /*file*/) {
-  return OpenOdbc(entry.CONNECT, {PostgresServer::kUser, PostgresServer::kPassword});
+const Kind kKinds[] = {
+    {"Sqlite", "ACCESS", [](const auto&) { return std::string(); }},
+    {"PostgresByOdbc", "ODBC", [](const auto&) { return Server().Connect(); }},
+    {"SqliteByOdbc", "odbc", [](const auto& file) { return "Driver=SQLite3;Timeout=100;Database=" + file.string(); }}};
+
+std::shared_ptr<Connection> ConnectByOdbc(const std::string& connect) {
+  return OpenOdbc(connect, {PostgresServer::kUser, PostgresServer::kPassword});
 }
 
-const Kind kKinds[] = {
-    {"Sqlite", [](const auto&) { return BuiltInDataList()[0]; },
-     [](const auto&, const auto& file) {
-       auto connection = OpenSqlite(file, {.MakesMissingFile = true});
-       connection->Make();
-       return connection;
-     }},
-    {"PostgresByOdbc", [](const auto&) { return DataListEntry{"PanelNotes", "ODBC", "", "", "", Server().Connect()}; },
-     ConnectByOdbc},
-    {"SqliteByOdbc",
-     [](const auto& file) {
-       return DataListEntry{"PanelNotes", "odbc", "", "", "", "Driver=SQLite3;Timeout=100;Database=" + file.string()};
-     },
-     ConnectByOdbc}};
+void MakeTable(Connection& direct, const std::string& constraint) {
+  direct.Execute("DROP TABLE IF EXISTS \"PanelNotes\"", {});
+  direct.Execute(R"(CREATE TABLE "PanelNotes" ("PanelGUID" TEXT, "NoteHeader" TEXT,
+                    "NoteTypeID" INTEGER, "Memo" TEXT )" +
+                     constraint + ")",
+                 {});
+}
 
 class Store : public ::testing::TestWithParam<Kind> {
  protected:
-  Store() {
-    // No key of the table: what keeps rows from being doubled is the store.
-    auto direct = Direct();
-    direct->Execute("DROP TABLE IF EXISTS \"PanelNotes\"", {});
-    direct->Execute(
-        "CREATE TABLE \"PanelNotes\" (\"PanelGUID\" TEXT, \"NoteHeader\" TEXT, \"NoteTypeID\" INTEGER, "
-        "\"Memo\" TEXT CHECK (\"Memo\" <> 'refused'))",
-        {});
-  }
-  [[nodiscard]] std::filesystem::path File() const { return Drives.Path() / "c" / "accounts" / "notes.db"; }
+  // No key of the table: what keeps rows from being doubled is the store.
+  Store() { MakeTable(*Direct(), "CHECK (\"Memo\" <> 'refused')"); }
   [[nodiscard]] std::shared_ptr<Connection> Direct() const {
-    std::filesystem::create_directories(File().parent_path());
-    return GetParam().Connect(Places.Entries->front(), File());
+    std::filesystem::create_directories(File.parent_path());
+    if (!Connect.empty()) return ConnectByOdbc(Connect);
+    auto connection = OpenSqlite(File, {.MakesMissingFile = true});
+    connection->Make();
+    return connection;
   }
   [[nodiscard]] Value Count(const std::string& condition = "1 = 1") const {
     return Direct()->FirstRow("SELECT count(*) AS n FROM \"PanelNotes\" WHERE " + condition, {})->at(0).second;
@@ -160,16 +144,20 @@ class Store : public ::testing::TestWithParam<Kind> {
   /// Rows of the same key.
   void Insert(const std::vector<std::string>& memos) const {
     for (const auto& memo : memos) {
-      Direct()->Execute("INSERT INTO \"PanelNotes\" VALUES ('P1', 'Service', 3, " + memo + ")", {});
+      Direct()->Execute("INSERT INTO \"PanelNotes\" VALUES ('P1', 'of P1', 3, " + memo + ")", {});
     }
   }
 
   const TemporaryFolder Drives;
-  const DataListPlaces Places{DataListEntries{GetParam().Entry(File())}, Drives.Path()};
+  const std::filesystem::path File = Drives.Path() / "c" / "accounts" / "notes.db";
+  const std::string Connect = GetParam().Connect(File);
+  const DataListPlaces Places{{{{"PanelNotes", GetParam().Type, "C", "\\accounts\\", "notes.db", Connect}}},
+                              Drives.Path()};
   Program One{Places};
 };
 
-INSTANTIATE_TEST_SUITE_P(All, Store, ::testing::ValuesIn(kKinds), [](const auto& kind) { return kind.param.Name; });
+INSTANTIATE_TEST_SUITE_P(All, Store, ::testing::ValuesIn(kKinds),
+                         [](const auto& kind) { return std::string(kind.param.Name); });
 
 TEST_P(Store, EveryValueReachesItsOwnRowAndNoOther) {
   std::string longest;
@@ -177,41 +165,39 @@ TEST_P(Store, EveryValueReachesItsOwnRowAndNoOther) {
   const std::vector<std::string> texts{
       "x", "x' OR '1'='1", "'; DELETE FROM \"PanelNotes\"; --", "[a] % _ ? {fn x} \\ \" :n $1", " \r\n\t\n\r ", "ü€日😀",
       "",  longest};
+  const auto keyOf = [](const std::string& text) { return text.substr(0, 200 * 7); };
   for (const auto& text : texts) {
-    const Key key{text.substr(0, 200 * 7), "of " + text.substr(0, 200 * 7)};
-    EXPECT_EQ(One.Read(key), Value()) << text;
-    EXPECT_EQ(One.Save(key, text), 0) << text;
+    EXPECT_EQ(One.Read(keyOf(text)), Value()) << text;
+    EXPECT_EQ(One.Save(text, keyOf(text)), 0) << text;
   }
   for (const auto& text : texts) {
-    const Key key{text.substr(0, 200 * 7), "of " + text.substr(0, 200 * 7)};
-    EXPECT_EQ(One.Read(key), text);
-    EXPECT_EQ(One.Save(key, text + "2"), 0) << text;
+    EXPECT_EQ(One.Read(keyOf(text)), text);
+    EXPECT_EQ(One.Save(text + "2", keyOf(text)), 0) << text;
   }
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    const Key key{texts[i].substr(0, 200 * 7), "of " + texts[i].substr(0, 200 * 7)};
-    EXPECT_EQ(One.Read(key), texts[i] + "2");
-    EXPECT_EQ(One.Delete(key), 0);
-    EXPECT_EQ(Count(), static_cast<std::int32_t>(texts.size() - i - 1));
+  for (auto left = static_cast<std::int32_t>(texts.size()); const auto& text : texts) {
+    EXPECT_EQ(One.Read(keyOf(text)), text + "2");
+    EXPECT_EQ(One.Delete(keyOf(text)), 0);
+    EXPECT_EQ(Count(), --left);
   }
 }
 
 TEST_P(Store, WhatWasBegunAndNotStoredIsGivenUp) {
-  ASSERT_EQ(One.Save({}, "old"), 0);
-  ASSERT_EQ(One.Open({}, DListComponent::Writing), 0);
-  ASSERT_EQ(One.Begin({}, "new"), 0);
+  ASSERT_EQ(One.Save("old"), 0);
+  ASSERT_EQ(One.Open(DListComponent::Writing), 0);
+  ASSERT_EQ(One.Begin("new"), 0);
   One.Close();
-  EXPECT_EQ(One.Read({}), "old");
-  EXPECT_EQ(One.Begin({}, "new"), failures::DatabaseReadOnly) << "opened for reading";
+  EXPECT_EQ(One.Read(), "old");
+  EXPECT_EQ(One.Begin("new"), failures::DatabaseReadOnly) << "opened for reading";
 }
 
 TEST_P(Store, TheLastValueOfAFieldCounts) {
   for (const std::string memo : {"new row", "changed row"}) {
-    ASSERT_EQ(One.Open({}, DListComponent::Writing), 0);
-    ASSERT_EQ(One.Begin({}, "first"), 0);
+    ASSERT_EQ(One.Open(DListComponent::Writing), 0);
+    ASSERT_EQ(One.Begin("first"), 0);
     One.Field("Memo").SetValue(memo);
     EXPECT_EQ(One.Field("MEMO").Value(), memo);
     EXPECT_EQ(One.Update(), 0);
-    EXPECT_EQ(One.Read({}), memo);
+    EXPECT_EQ(One.Read(), memo);
   }
   EXPECT_EQ(One.Field("NOTETYPEID").Value(), std::int32_t{3});
   EXPECT_THROW(One.Field("Notes"), Failure);
@@ -219,16 +205,16 @@ TEST_P(Store, TheLastValueOfAFieldCounts) {
 
 TEST_P(Store, TheCurrentRowAloneIsChangedOrDeleted) {
   Insert({"'same'", "'same'", "'other'", "NULL"});
-  EXPECT_EQ(One.Save({}, "new"), 0);
+  EXPECT_EQ(One.Save("new"), 0);
   EXPECT_EQ(Count("\"Memo\" = 'new'"), 1);
   for (int rows = 4; rows > 0; --rows) {
     EXPECT_EQ(Count(), rows);
-    EXPECT_EQ(One.Delete({}), 0);
+    EXPECT_EQ(One.Delete(), 0);
   }
 }
 
 TEST_P(Store, RowsThatTheirColumnsAloneTellApartAreChangedUnlessTheyAreAlike) {
-  const bool onServer = GetParam().Name == "PostgresByOdbc";
+  const bool onServer = GetParam().Name == std::string("PostgresByOdbc");
   const auto direct = Direct();
   direct->Execute(R"(ALTER TABLE "PanelNotes" RENAME TO "Rows")", {});
   direct->Execute(onServer ? R"(CREATE VIEW "PanelNotes" AS SELECT * FROM "Rows")"
@@ -236,34 +222,35 @@ TEST_P(Store, RowsThatTheirColumnsAloneTellApartAreChangedUnlessTheyAreAlike) {
                                 "Memo" TEXT PRIMARY KEY) WITHOUT ROWID)",
                   {});
   Insert({"'a'", "'b'"});
-  EXPECT_EQ(One.Save({}, "new"), 0);
+  EXPECT_EQ(One.Save("new"), 0);
   EXPECT_EQ(Count("\"Memo\" = 'new'"), 1);
   EXPECT_EQ(Count(), 2);
   if (!onServer) return;
   direct->Execute("UPDATE \"PanelNotes\" SET \"Memo\" = 'alike'", {});
-  EXPECT_EQ(One.Delete({}), failures::DatabaseCallFailed);
+  EXPECT_EQ(One.Delete(), failures::DatabaseCallFailed);
   One.Close();
   EXPECT_EQ(Count(), 2);
   direct->Execute("DROP TABLE \"Rows\" CASCADE", {});
 }
 
-TEST_P(Store, ALockThatStandsIsToldAfterTheTimeOut) {
-  ASSERT_EQ(One.Save({}, "old"), 0);
+TEST_P(Store, ALockThatStandsIsToldAfterTheTimeOutAndKeepsNoReader) {
+  ASSERT_EQ(One.Save("old"), 0);
   const auto other = Direct();
   other->Begin();
   other->Execute("UPDATE \"PanelNotes\" SET \"Memo\" = ?", {"other"});
-  EXPECT_EQ(Program(Places, 1).Save({}, "new"), failures::DatabaseLocked);
+  EXPECT_EQ(Program(Places, 1).Save("new"), failures::DatabaseLocked);
+  EXPECT_EQ(Program(Places).Read(), "old");
   other->Rollback();
-  EXPECT_EQ(One.Read({}), "old");
+  EXPECT_EQ(One.Read(), "old");
 }
 
 TEST_P(Store, WhatTheDatabaseWillNeverTakeIsRefusedAtOnce) {
-  ASSERT_EQ(One.Save({}, "old"), 0);
+  ASSERT_EQ(One.Save("old"), 0);
   const std::string withZero("a\0b", 3);
-  const bool taken = One.Save({}, withZero) == 0;
-  EXPECT_EQ(One.Read({}), taken ? withZero : "old") << "never cut";
+  const bool taken = One.Save(withZero) == 0;
+  EXPECT_EQ(One.Read(), taken ? withZero : "old") << "never cut";
   const auto start = std::chrono::steady_clock::now();
-  EXPECT_EQ(One.Save({}, "refused"), failures::DatabaseCallFailed);
+  EXPECT_EQ(One.Save("refused"), failures::DatabaseCallFailed);
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3));
 }
 
@@ -273,7 +260,7 @@ TEST_P(Store, ProgramsThatSaveAtOnceAllEndAndDoubleNoRow) {
   const auto save = [&](const std::string& memo) {
     Program program(Places, 30);
     for (int i = 0; i < rounds; ++i) {
-      if (program.Save({"P" + std::to_string(i), "Service"}, memo) != 0) ++failed;
+      if (program.Save(memo, std::to_string(i)) != 0) ++failed;
     }
   };
   std::thread other(save, "a");
@@ -284,37 +271,19 @@ TEST_P(Store, ProgramsThatSaveAtOnceAllEndAndDoubleNoRow) {
 }
 
 TEST_P(Store, ATableThatIsMissingForGoodIsTold) {
-  ASSERT_EQ(One.Open({}, DListComponent::Reading), 0);
+  EXPECT_NE(One.Open(DListComponent::Reading, "SELECT * FROM [Panels]"), 0);
+  EXPECT_EQ(One.Open(DListComponent::Reading, "SELECT * FROM [PanelNotes]; x"), failures::InvalidCall);
   DataList list(Places);
-  list.SetUserName(PostgresServer::kUser);
-  list.SetPassword(PostgresServer::kPassword);
-  DatabasePtr db;
-  ASSERT_EQ(list.DOPEN("PanelNotes", 0, db), 0);
   RecordsetPtr rs;
-  const auto open = [&](const char* query) {
-    return list.CreateDynaWise(db, rs, query, 2, "", DListComponent::Reading);
-  };
-  EXPECT_NE(open("SELECT * FROM [Panels]"), 0);
-  EXPECT_EQ(open("SELECT * FROM [PanelNotes]; x"), failures::InvalidCall);
-  EXPECT_EQ(list.CreateDynaWise(nullptr, rs, QueryFor({}), 2, "", DListComponent::Reading), failures::NoObject);
+  EXPECT_EQ(list.CreateDynaWise(nullptr, rs, QueryFor(kKey), 2, "", DListComponent::Reading), failures::NoObject);
   EXPECT_EQ(list.UpdateDsWise(nullptr, 2, ""), failures::NoObject);
 }
 
 class SqliteFile : public ::testing::Test {
  protected:
-  std::filesystem::path File = Drives().Path() / "c" / "accounts" / "notes.db";
-  DataListPlaces Places{{}, Drives().Path()};
-
-  const TemporaryFolder& Drives() {
-    if (drives_ == nullptr) drives_ = std::make_unique<TemporaryFolder>();
-    return *drives_;
-  }
-
- private:
-  static inline std::unique_ptr<TemporaryFolder> drives_;
-
- public:
-  ~SqliteFile() override { drives_.reset(); }
+  const TemporaryFolder Drives;
+  const std::filesystem::path File = Drives.Path() / "c" / "accounts" / "notes.db";
+  const DataListPlaces Places{{}, Drives.Path()};
 };
 
 TEST_F(SqliteFile, IsMadeForItsOwnerOnlyAndOnlyWhereAsked) {
@@ -324,10 +293,10 @@ TEST_F(SqliteFile, IsMadeForItsOwnerOnlyAndOnlyWhereAsked) {
   Program first(Places);
   Program second(Places);
   for (auto* program : {&first, &second}) {
-    ASSERT_EQ(program->Open({}, DListComponent::Writing), 0);
-    EXPECT_EQ(program->Begin({}, "a"), 0);
+    ASSERT_EQ(program->Open(DListComponent::Writing), 0);
+    EXPECT_EQ(program->Begin("a"), 0);
   }
-  EXPECT_FALSE(std::filesystem::exists(Drives().Path() / "c")) << "nothing is stored yet";
+  EXPECT_FALSE(std::filesystem::exists(Drives.Path() / "c")) << "nothing is stored yet";
   EXPECT_EQ(first.Update(), 0);
   EXPECT_EQ(second.Update(), 0) << "finds the row of the other";
   EXPECT_EQ(OpenSqlite(File, {})->FirstRow("SELECT count(*) FROM PanelNotes", {})->at(0).second, 1);
@@ -336,44 +305,37 @@ TEST_F(SqliteFile, IsMadeForItsOwnerOnlyAndOnlyWhereAsked) {
   EXPECT_EQ(std::filesystem::status(File.parent_path()).permissions(), perms::owner_all);
   // An empty file is a database without the table.
   std::filesystem::resize_file(File, 0);
-  EXPECT_EQ(Program(Places).Read({}), Value());
+  EXPECT_EQ(Program(Places).Read(), Value());
 }
 
 TEST_F(SqliteFile, EachFailureHasItsNumberAndLeavesTheRow) {
-  ASSERT_EQ(Program(Places).Save({}, "old"), 0);
-  {
-    auto other = OpenSqlite(File, {});
-    other->Begin();
-    EXPECT_EQ(Program(Places, 1).Save({}, "new"), failures::DatabaseLocked);
-    EXPECT_EQ(Program(Places).Read({}), "old") << "readers do not wait";
-    other->Rollback();
-  }
+  ASSERT_EQ(Program(Places).Save("old"), 0);
   std::fstream file(File, std::ios::binary | std::ios::in | std::ios::out);
   constexpr std::streamoff writeVersion = 18;
   file.seekp(writeVersion).put('\x7').flush();  // as a later SQLite marks a file that this one may read only
-  EXPECT_EQ(Program(Places).Save({}, "new"), failures::DatabaseReadOnly);
-  EXPECT_EQ(Program(Places).Read({}), "old");
+  EXPECT_EQ(Program(Places).Save("new"), failures::DatabaseReadOnly);
+  EXPECT_EQ(Program(Places).Read(), "old");
   file.seekp(writeVersion).put('\x1').flush();
 
   std::signal(SIGXFSZ, SIG_IGN);
   const rlimit small{std::filesystem::file_size(File), RLIM_INFINITY};
   ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-  const auto noRoom = Program(Places).Save({}, std::string(100000, 'x'));
+  const auto noRoom = Program(Places).Save(std::string(100000, 'x'));
   const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
   ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &none), 0);
   EXPECT_EQ(noRoom, failures::DatabaseFull);
-  EXPECT_EQ(Program(Places).Read({}), "old");
+  EXPECT_EQ(Program(Places).Read(), "old");
 
   file.seekp(0) << "no database at all";
   file.flush();
-  EXPECT_EQ(Program(Places).Save({}, "new"), failures::CannotOpenDatabase);
+  EXPECT_EQ(Program(Places).Save("new"), failures::CannotOpenDatabase);
 }
 
 /// One row that a child saves over and over, two texts in turn; the child is killed at any moment.
 TEST_F(SqliteFile, AKilledProgramLeavesTheOldOrTheNewRowWhole) {
   constexpr int kills = 200;
   const std::string texts[] = {std::string(15500, 'a'), std::string(15500, 'b')};
-  ASSERT_EQ(Program(Places).Save({}, texts[0]), 0);
+  ASSERT_EQ(Program(Places).Save(texts[0]), 0);
   void* const shared =
       mmap(nullptr, sizeof(std::atomic<int>), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
   ASSERT_NE(shared, MAP_FAILED);
@@ -386,7 +348,7 @@ TEST_F(SqliteFile, AKilledProgramLeavesTheOldOrTheNewRowWhole) {
     if (child == 0) {
       Program program(Places);
       for (int next = 0;; ++next) {
-        if (program.Save({}, texts[next % 2]) != 0) _exit(1);
+        if (program.Save(texts[next % 2]) != 0) _exit(1);
         ++*saves;
       }
     }
@@ -397,7 +359,7 @@ TEST_F(SqliteFile, AKilledProgramLeavesTheOldOrTheNewRowWhole) {
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);
     ASSERT_TRUE(WIFSIGNALED(status)) << "the child could not save";
-    const auto row = Program(Places).Read({});
+    const auto row = Program(Places).Read();
     ASSERT_TRUE(row == texts[0] || row == texts[1]) << "after kill " << i;
   }
   std::cout << kills << " kills during " << *saves << " saves: every row whole\n";
@@ -410,12 +372,7 @@ TEST_F(SqliteFile, AKilledProgramLeavesTheOldOrTheNewRowWhole) {
 class NotesOnAServer : public ::testing::Test {
  protected:
   NotesOnAServer() {
-    auto direct = OpenOdbc(Server().Connect(), {PostgresServer::kUser, PostgresServer::kPassword});
-    direct->Execute("DROP TABLE IF EXISTS \"PanelNotes\"", {});
-    direct->Execute(
-        "CREATE TABLE \"PanelNotes\" (\"PanelGUID\" varchar(255), \"NoteHeader\" varchar(255), "
-        "\"NoteTypeID\" integer, \"Memo\" text, PRIMARY KEY (\"PanelGUID\", \"NoteHeader\", \"NoteTypeID\"))",
-        {});
+    MakeTable(*ConnectByOdbc(Server().Connect()), R"(, PRIMARY KEY ("PanelGUID", "NoteHeader", "NoteTypeID"))");
   }
   static DialogRun Open(const std::string& password, const std::string& script, bool isInMemory = false) {
     PlayOptions options;
@@ -445,8 +402,8 @@ TEST_F(NotesOnAServer, AFailureTellsNothingOfThePassword) {
 
 TEST_F(NotesOnAServer, AServerThatGoesAwayIsAFailure) {
   Program program({DataListEntries{{"PanelNotes", "ODBC", "", "", "", Server().Connect()}}, {}}, 1);
-  ASSERT_EQ(program.Open({}, DListComponent::Writing), 0);
-  ASSERT_EQ(program.Begin({}, "new"), 0);
+  ASSERT_EQ(program.Open(DListComponent::Writing), 0);
+  ASSERT_EQ(program.Begin("new"), 0);
   Server().Stop();
   EXPECT_EQ(program.Update(), failures::DatabaseCallFailed);
   program.Close();
