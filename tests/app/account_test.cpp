@@ -5,6 +5,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "OrlinCustomDialogs/platform/standard_platform.h"
+
 #include "app/calls/installed_platform.h"
 #include "app/usage/usage_error.h"
 #include "support/dialog_test.h"
