@@ -18,6 +18,7 @@ bool ControlView::Update() {
 }
 
 std::unique_ptr<ControlView> MakeView(shown::Control& control, Desk& desk, QWidget* parent) {
+  if (!control.CodeLists().empty()) return MakeCodeView(control, desk, parent);
   switch (control.Kind()) {
     case ControlKind::TextBox:
       return MakeTextBoxView(control, desk, parent);

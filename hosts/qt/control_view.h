@@ -25,6 +25,8 @@ class Desk {
   }
   /// Whether the operator's own clock runs the timers.
   [[nodiscard]] virtual bool RunsTimers() const = 0;
+  /// Whether a person works the window. Where a script does, the window is no more than the dialog itself.
+  [[nodiscard]] bool ServesPerson() const { return RunsTimers(); }
 };
 
 /// Shows one control in a widget. The control holds the state: the widget never changes by itself, but is brought up
@@ -51,6 +53,8 @@ class ControlView {
     static_cast<void>(key);
     return false;
   }
+  /// Whether a drop-down list is open: what is typed then is looked for in its rows, also where it has an edit field.
+  [[nodiscard]] virtual bool IsListOpen() const { return false; }
 
  protected:
   ControlView() = default;

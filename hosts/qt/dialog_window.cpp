@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "qt/code_view.h"
 #include "qt/form_layout.h"
 #include "qt/key_events.h"
 #include "qt/passive_edit.h"
@@ -28,14 +29,23 @@ constexpr double kMostOfScreen = 0.9;
 }  // namespace
 
 DialogWindow::DialogWindow(shown::Dialog& dialog, Timers timers, QWidget* parent)
-    : QDialog(dynamic_cast<DialogWindow*>(parent)), dialog_(dialog), timers_(timers), form_(FormOf(dialog)) {
+    : QDialog(dynamic_cast<DialogWindow*>(parent)),
+      dialog_(dialog),
+      timers_(timers),
+      form_(FormOf(dialog)),
+      search_(dialog, *this) {
   setWindowModality(Qt::ApplicationModal);
   setFocusPolicy(Qt::StrongFocus);
   StandOver(*this, parent);
   body_ = new QWidget(this);
   MakeViews(*body_);
   Present();
-  FormLayout layout(form_, [this](const auto& control) { return ViewOf(control).Widget(); });
+  const auto remarkOf = [this](const auto& control) {
+    const auto remark = remarks_.find(&control);
+    return remark == remarks_.end() ? nullptr : remark->second;
+  };
+  FormLayout layout(
+      form_, [this](const auto& control) { return ViewOf(control).Widget(); }, remarkOf);
   layout.LayOut(*this, *body_);
   stretches_ = layout.Stretches();
 }
@@ -70,6 +80,16 @@ void DialogWindow::MakeViews(QWidget& body) {
     views_.push_back(MakeView(*control, *this, parent));
     Watch(*views_.back());
   }
+  const auto isCode = [](const auto& view) { return dynamic_cast<CodeView*>(view.get()) != nullptr; };
+  if (const auto code = std::find_if(views_.begin(), views_.end(), isCode); code != views_.end()) {
+    code_ = dynamic_cast<CodeView*>(code->get());
+    code_->KeyboardWidget()->installEventFilter(this);
+    for (const auto* list : code_->Control().CodeLists()) {
+      auto* remark = remarks_[list] = new QLabel(&body);
+      remark->setTextFormat(Qt::PlainText);
+      remark->hide();
+    }
+  }
   for (const auto& [field, label] : form_.Labels) {
     dynamic_cast<QLabel&>(*ViewOf(*label).Widget()).setBuddy(ViewOf(*field).Widget());
   }
@@ -102,6 +122,7 @@ void DialogWindow::Open() {
     return {};
   });
   if (!dialog_.IsShown() || thrown_) return;
+  texts_.Remember(dialog_);
   WidenCaptions();
   Fit();
   show();
@@ -122,6 +143,8 @@ void DialogWindow::Do(const std::function<Refusal()>& action) {
   if (auto* field = dynamic_cast<Composing*>(focusWidget()); field != nullptr && !busy_) field->Commit();
   // A timer may be due while a message is shown; it then waits for the next time.
   if (busy_ || !dialog_.IsShown()) return;
+  // Who does something elsewhere has left the field of the code, which shows the code as it stands again.
+  if (code_ != nullptr && !code_->Acts()) code_->Leave();
   busy_ = true;
   try {
     auto refusal = action();
@@ -146,6 +169,7 @@ void DialogWindow::Present() {
   }
   for (const auto& view : views_) different = view->Update() || different;
   if (different) PresentNames();
+  different = PresentRemarks() || different;
   if (layout() != nullptr) {
     PresentFocus();
     if (different && isVisible()) Fit();
@@ -157,6 +181,7 @@ void DialogWindow::PresentFocus() {
   auto* focused = dialog_.FocusedControl();
   auto* wanted =
       focused != nullptr && focused->WithinReach() ? ViewOf(*focused).KeyboardWidget() : static_cast<QWidget*>(this);
+  if (code_ != nullptr && code_->HasKeyboard()) wanted = code_->KeyboardWidget();
   if (wanted == keyboard_ && wanted->hasFocus()) return;
   const bool another = std::exchange(keyboard_, wanted) != wanted;
   if (another) PresentDefault();
@@ -192,6 +217,26 @@ void DialogWindow::PresentNames() {
     widget->setAccessibleName(name);
     for (auto* field : widget->findChildren<QLineEdit*>()) field->setAccessibleName(name);
   }
+}
+
+bool DialogWindow::PresentRemarks() {
+  bool different = false;
+  for (const auto& [list, label] : remarks_) {
+    const auto remark = list->IsShown() ? code_->RemarkOn(*list) : QString();
+    if (label->property("remark") == remark) continue;
+    different = true;
+    label->setProperty("remark", remark);
+    auto* widget = ViewOf(*list).Widget();
+    // The window grows in height alone.
+    label->setText(Wrapped(remark, label->fontMetrics(), std::max(widget->width(), widget->sizeHint().width())));
+    label->setVisible(!remark.isEmpty());
+    widget->setAccessibleDescription(remark);
+  }
+  // OK would store another code than the one that stands there.
+  if (const auto* pressed = dialog_.DefaultButton(); code_ != nullptr && pressed != nullptr) {
+    ViewOf(*pressed).Widget()->setEnabled(pressed->Enabled() && !code_->IsOpen());
+  }
+  return different;
 }
 
 QSize DialogWindow::Room() const {
@@ -238,6 +283,7 @@ void DialogWindow::Fit() {
   const auto wanted = hint.boundedTo(most);
   // The operator's own size stays, unless something new needs more.
   const bool own = fitted_.isValid() && size() != fitted_;
+  if (std::exchange(wanted_, wanted) == wanted && own) return;
   resize(own ? size().expandedTo(wanted) : wanted);
   fitted_ = size();
 }
@@ -278,7 +324,7 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
       const auto reason = dynamic_cast<const QFocusEvent&>(*event).reason();
       auto* view = WatchedView(watched);
       const bool meant = reason == Qt::OtherFocusReason || reason == Qt::TabFocusReason;
-      if (!presenting_ && meant && view != nullptr && !view->Control().HasFocus()) {
+      if (!presenting_ && meant && view != nullptr && view != code_ && !view->Control().HasFocus()) {
         Do([&] { return view->Control().Focus(); });
       }
       return false;
@@ -291,11 +337,22 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
 void DialogWindow::keyPressEvent(QKeyEvent* event) { TakeKey(nullptr, *event); }
 
 void DialogWindow::TakeKey(ControlView* view, const QKeyEvent& key) {
+  if (code_ != nullptr && code_->TakeTab(key)) return;
   if (view != nullptr && view->TakeWindowKey(key)) return;
+  if (key.key() == Qt::Key_Escape && EscapeEnds() && !MayEnd()) return;
   constexpr qint64 typingPause = 1000;
-  if (timers_ == Timers::Run && sinceKey_.isValid() && sinceKey_.elapsed() > typingPause) dialog_.PauseTyping();
+  if (ServesPerson() && sinceKey_.isValid() && sinceKey_.elapsed() > typingPause) {
+    dialog_.PauseTyping();
+    search_.Pause();
+  }
   sinceKey_.start();
-  for (const auto& pressed : KeysOf(key)) Press(pressed, dialog_);
+  for (const auto& pressed : KeysOf(key)) {
+    if (ServesPerson()) {
+      search_.Press(pressed, view != nullptr && view->IsListOpen());
+    } else {
+      Press(pressed, dialog_);
+    }
+  }
 }
 
 void DialogWindow::showEvent(QShowEvent* event) {
@@ -305,6 +362,8 @@ void DialogWindow::showEvent(QShowEvent* event) {
 }
 
 void DialogWindow::closeEvent(QCloseEvent* event) {
+  // Only somebody at the window is asked: not an application that quits, not one whose window under this one goes.
+  if (event->spontaneous() && !MayEnd()) return event->ignore();
   CloseBox();
   // A window that refused would keep an application from quitting.
   event->setAccepted(closing_ || !dialog_.IsShown());
@@ -316,6 +375,15 @@ void DialogWindow::CloseBox() {
     dialog_.Close();
     return {};
   });
+}
+
+bool DialogWindow::MayEnd() { return !ServesPerson() || busy_ || !texts_.Any() || MayBeLost(*this); }
+
+bool DialogWindow::EscapeEnds() const {
+  const auto* cancel = dialog_.CancelButton();
+  const auto* focused = dialog_.FocusedControl();
+  const auto* table = focused != nullptr ? focused->AsTable() : nullptr;
+  return cancel != nullptr && cancel->WithinReach() && (table == nullptr || !table->Editing());
 }
 
 }  // namespace orlin

@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <exception>
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -11,11 +12,16 @@
 #include "OrlinCustomDialogs/host/controls.h"
 #include "OrlinCustomDialogs/host/form.h"
 
+#include "qt/changed_texts.h"
 #include "qt/control_view.h"
+#include "qt/word_search.h"
 
+class QLabel;
 class QScrollArea;
 
 namespace orlin {
+
+class CodeView;
 
 /// A dialog of the library in a window. Everything that the operator does goes to the controls; after it, and
 /// before each message, the widgets are brought up to date.
@@ -68,17 +74,27 @@ class DialogWindow final : public QDialog, public Desk {
   void PresentFocus();
   void PresentDefault();
   void PresentNames();
+  /// What is wrong with a code stands below its lists. Tells whether something else stands there now.
+  bool PresentRemarks();
   void Fit();
   /// The largest that the window may be.
   [[nodiscard]] QSize Room() const;
   /// The form, once it scrolls.
   [[nodiscard]] QScrollArea* Scrolling() const;
   void CloseBox();
+  /// Whether the dialog may end without OK: a person who has changed a long text is asked.
+  [[nodiscard]] bool MayEnd();
+  /// Whether Escape would press the cancel button.
+  [[nodiscard]] bool EscapeEnds() const;
 
   shown::Dialog& dialog_;
   Timers timers_;
   Form form_;
   std::vector<std::unique_ptr<ControlView>> views_;
+  CodeView* code_ = nullptr;  // where the dialog has one
+  std::map<const shown::Control*, QLabel*> remarks_;
+  ChangedTexts texts_;
+  WordSearch search_;
   QWidget* body_ = nullptr;
   QWidget* keyboard_ = nullptr;
   std::optional<std::uint32_t> revision_;
@@ -87,7 +103,8 @@ class DialogWindow final : public QDialog, public Desk {
   bool busy_ = false;
   bool closing_ = false;
   QSize fitted_;
-  QSize room_;  // of another screen; invalid for that of the window
+  QSize wanted_;  // by what is in the window
+  QSize room_;    // of another screen; invalid for that of the window
   Refusal refusal_;
   std::exception_ptr thrown_;
   QEventLoop loop_;

@@ -141,8 +141,10 @@ void FormLayout::AddField(QGridLayout& grid, const FormRow& row) {
   const int at = grid.rowCount();
   const int column = row.Label != nullptr ? 1 : 0;
   if (row.Lines.size() == 1 && row.Lines.front().size() == 1) {
-    auto* field = widgetOf_(*row.Lines.front().front());
+    const auto& control = *row.Lines.front().front();
+    auto* field = widgetOf_(control);
     grid.addWidget(field, at, column, 1, 2 - column, IsExpanding(*field) ? Qt::Alignment() : Qt::AlignLeft);
+    if (auto* remark = remarkOf_(control)) grid.addWidget(remark, at + 1, column, 1, 2 - column);
   } else {
     auto* lines = new QVBoxLayout();
     for (const auto& line : row.Lines) AddLine(*lines, line, 0);

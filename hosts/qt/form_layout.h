@@ -10,13 +10,15 @@
 
 namespace orlin {
 
-/// The widget that shows a control.
+/// The widget that shows a control, or that belongs to one in another way.
 using WidgetOf = std::function<QWidget*(const shown::Control&)>;
 
 /// Lays out the controls of one container: labels in one column, fields in another, everything else across both.
 class FormLayout {
  public:
-  FormLayout(const Form& form, WidgetOf widgetOf) : form_(form), widgetOf_(std::move(widgetOf)) {}
+  /// `remarkOf` gives what stands below a field; null where nothing does.
+  FormLayout(const Form& form, WidgetOf widgetOf, WidgetOf remarkOf)
+      : form_(form), widgetOf_(std::move(widgetOf)), remarkOf_(std::move(remarkOf)) {}
 
   /// The whole window: the form, the row of buttons, the status line.
   void LayOut(QWidget& window, QWidget& body);
@@ -37,6 +39,7 @@ class FormLayout {
 
   const Form& form_;
   WidgetOf widgetOf_;
+  WidgetOf remarkOf_;
   bool stretches_ = false;
   std::vector<QGridLayout*> frameGrids_;
 };

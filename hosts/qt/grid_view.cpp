@@ -7,11 +7,14 @@
 #include <QTableView>
 #include <algorithm>
 #include <limits>
+#include <map>
+#include <utility>
 
 #include "qt/colours.h"
 #include "qt/key_events.h"
 #include "qt/passive_edit.h"
 #include "qt/row_model.h"
+#include "qt/texts.h"
 #include "qt/views.h"
 
 namespace orlin {
@@ -26,16 +29,37 @@ QFont Bold(QFont font) {
   return font;
 }
 
-/// The cells of a grid as they were when the window was last brought up to date. The first fixed row is the title row.
+/// What the colour of a text means in a dialog, where a label tells it. The sign tells it without the colour.
+struct Meaning {
+  QString Sign;
+  QString Text;
+};
+
+/// The meanings of the colours that a dialog explains, told by number of their keys: "!", "!!" ...
+std::map<std::int32_t, Meaning> MeaningsIn(const shown::Dialog& dialog) {
+  std::map<std::int32_t, Meaning> meanings;
+  for (const auto* key : dialog.Controls()) {
+    if (key->Role() != shown::LabelRole::ColourKey || !key->BackColor() || key->ToldBy() == nullptr) continue;
+    meanings[*key->BackColor()] = {SignOf(*key), SpokenCaption(key->ToldBy()->Caption())};
+  }
+  return meanings;
+}
+
+constexpr int kSignRole = Qt::UserRole;
+
+/// The cells of a grid as they were when the window was last brought up to date. The first fixed row is the title row,
+/// the first fixed column the titles of the rows.
 class CellModel final : public QAbstractTableModel {
  public:
-  CellModel(const shown::Table& grid, QWidget& view) : QAbstractTableModel(&view), grid_(grid), view_(view) {}
+  CellModel(const shown::Control& control, QWidget& view)
+      : QAbstractTableModel(&view), control_(control), grid_(*control.AsTable()), view_(view) {}
 
   /// Tells whether anything is different.
   bool Take() {
     const bool reshaped = static_cast<int>(cells_.size()) != grid_.Rows() || cols_ != grid_.Cols();
     if (reshaped) beginResetModel();
     cols_ = grid_.Cols();
+    meanings_ = MeaningsIn(control_.Form());
     cells_.resize(static_cast<std::size_t>(grid_.Rows()));
     bool different = reshaped;
     for (int row = 0; row < grid_.Rows(); ++row) {
@@ -53,18 +77,23 @@ class CellModel final : public QAbstractTableModel {
       endResetModel();
     } else if (different && rowCount() > 0 && cols_ > 0) {
       emit dataChanged(index(0, 0), index(rowCount() - 1, cols_ - 1));
+      emit headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
     }
     return different;
   }
 
   [[nodiscard]] int TitleRows() const { return std::min(grid_.FixedRows(), 1); }
+  [[nodiscard]] bool HasRowTitles() const { return grid_.FixedCols() > 0; }
 
   /// The width of a column's widest text.
   [[nodiscard]] int TextWidth(int col) const {
     std::vector<const std::string*> texts;
     texts.reserve(cells_.size());
     for (const auto& cells : cells_) texts.push_back(&cells[static_cast<std::size_t>(col)].Text);
-    return WidthOfLongest(texts, QFontMetrics(Bold(view_.font())));
+    const QFontMetrics metrics(Bold(view_.font()));
+    int sign = 0;
+    for (const auto& [colour, meaning] : meanings_) sign = std::max(sign, metrics.horizontalAdvance(meaning.Sign));
+    return WidthOfLongest(texts, metrics) + (sign > 0 ? sign + metrics.averageCharWidth() : 0);
   }
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override {
@@ -88,21 +117,35 @@ class CellModel final : public QAbstractTableModel {
         return cell.Color == 0 ? QVariant() : QVariant(Readable(ColourOf(cell.Color, view_.palette()), ground));
       case Qt::TextAlignmentRole:
         return static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter);
+      case kSignRole:
+        return MeaningOf(cell).Sign;
+      case Qt::AccessibleDescriptionRole:
+        return MeaningOf(cell).Text;
       default:
         return {};
     }
   }
 
   [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
-    if (orientation != Qt::Horizontal || cells_.empty() || section >= cols_) return {};
+    if (orientation == Qt::Vertical) {
+      return HasRowTitles() && section < rowCount() ? data(index(section, 0), role) : QVariant();
+    }
+    if (cells_.empty() || section >= cols_) return {};
     if (role == Qt::DisplayRole) return Shown(cells_.front()[static_cast<std::size_t>(section)].Text);
     if (role == Qt::TextAlignmentRole) return static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter);
     return {};
   }
 
  private:
+  [[nodiscard]] Meaning MeaningOf(const shown::Cell& cell) const {
+    const auto meaning = meanings_.find(cell.Color);
+    return meaning == meanings_.end() ? Meaning() : meaning->second;
+  }
+
+  const shown::Control& control_;
   const shown::Table& grid_;
   QWidget& view_;
+  std::map<std::int32_t, Meaning> meanings_;
   std::vector<std::vector<shown::Cell>> cells_;
   int cols_ = 0;
 };
@@ -113,12 +156,21 @@ class CellDelegate final : public QStyledItemDelegate {
   using QStyledItemDelegate::QStyledItemDelegate;
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     QStyledItemDelegate::paint(painter, option, index);
-    if (!option.state.testFlag(QStyle::State_Selected)) return;
-    constexpr int width = 2;
     painter->save();
-    painter->setPen(
-        QPen(option.palette.color(QPalette::Highlight), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter->drawRect(option.rect.adjusted(width / 2, width / 2, -width / 2, -width / 2));
+    if (const auto sign = index.data(kSignRole).toString(); !sign.isEmpty()) {
+      painter->setFont(Bold(option.font));
+      painter->setPen(index.data(Qt::ForegroundRole).value<QColor>());
+      const int edge = option.fontMetrics.averageCharWidth() / 2;
+      painter->drawText(option.rect.adjusted(0, 0, -edge, 0), Qt::AlignRight | Qt::AlignVCenter, sign);
+    }
+    if (option.state.testFlag(QStyle::State_Selected)) {
+      constexpr int width = 2;
+      // While the keyboard is elsewhere, in the colour of texts, which is as plain on any ground.
+      const bool hasKeyboard = option.widget != nullptr && option.widget->hasFocus();
+      const auto colour = option.palette.color(QPalette::Active, hasKeyboard ? QPalette::Highlight : QPalette::Text);
+      painter->setPen(QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+      painter->drawRect(option.rect.adjusted(width / 2, width / 2, -width / 2, -width / 2));
+    }
     painter->restore();
   }
 
@@ -129,11 +181,31 @@ class CellDelegate final : public QStyledItemDelegate {
   }
 };
 
+/// The title above the titles of the rows, for which a table of Qt has no place.
+class CornerTitle final : public QWidget {
+ public:
+  explicit CornerTitle(QTableView& table) : QWidget(&table), table_(table) {}
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QStyleOptionHeader option;
+    option.initFrom(this);
+    option.position = QStyleOptionHeader::Beginning;
+    option.textAlignment = Qt::AlignLeft | Qt::AlignVCenter;
+    option.text = table_.model()->headerData(0, Qt::Horizontal, Qt::DisplayRole).toString();
+    QPainter painter(this);
+    style()->drawControl(QStyle::CE_Header, &option, &painter, table_.horizontalHeader());
+  }
+
+ private:
+  QTableView& table_;
+};
+
 class CellTable final : public QTableView {
  public:
   CellTable(shown::Control& control, Desk& desk, QWidget* parent)
       : QTableView(parent), control_(control), grid_(*control.AsTable()), desk_(desk) {
-    model_ = new CellModel(grid_, *this);
+    model_ = new CellModel(control_, *this);
     setModel(model_);
     setItemDelegate(new CellDelegate(this));
     setFocusPolicy(Qt::TabFocus);
@@ -144,13 +216,18 @@ class CellTable final : public QTableView {
     setWordWrap(false);
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
-    verticalHeader()->hide();
+    // The titles of the rows stay in sight when the others are scrolled sideways.
+    verticalHeader()->setVisible(model_->HasRowTitles());
+    verticalHeader()->setHighlightSections(false);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(FieldHeight(*this));
     horizontalHeader()->setVisible(model_->TitleRows() > 0);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(true);
+    if (model_->HasRowTitles() && model_->TitleRows() > 0) corner_ = new CornerTitle(*this);
+    QObject::connect(verticalHeader(), &QHeaderView::sectionPressed, this,
+                     [this] { desk_.Do([this] { return control_.Focus(); }); });
     AddEditor();
   }
 
@@ -209,6 +286,13 @@ class CellTable final : public QTableView {
     PlaceEditor();
   }
 
+  void updateGeometries() override {
+    QTableView::updateGeometries();
+    if (corner_ == nullptr) return;
+    corner_->setGeometry(frameWidth(), frameWidth(), verticalHeader()->width(), horizontalHeader()->height());
+    corner_->update();
+  }
+
  private:
   void AddEditor() {
     editor_ = new PassiveLine(viewport());
@@ -243,6 +327,9 @@ class CellTable final : public QTableView {
       width = std::max({given, header, model_->TextWidth(col) + around});
       if (columnWidth(col) != width) setColumnWidth(col, width);
     }
+    if (!model_->HasRowTitles() || widths_.empty()) return;
+    verticalHeader()->setFixedWidth(widths_.front());
+    hideColumn(0);
   }
 
   [[nodiscard]] std::vector<int> GivenWidths() const {
@@ -263,6 +350,7 @@ class CellTable final : public QTableView {
   Desk& desk_;
   CellModel* model_ = nullptr;
   PassiveLine* editor_ = nullptr;
+  CornerTitle* corner_ = nullptr;  // where there are titles of both rows and columns
   std::vector<int> widths_;
   std::vector<int> givenWidths_;
   int titlesHeight_ = 0;  // takes its time to measure

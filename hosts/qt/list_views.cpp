@@ -6,6 +6,7 @@
 #include <QStyle>
 #include <algorithm>
 
+#include "qt/key_events.h"
 #include "qt/passive_edit.h"
 #include "qt/row_model.h"
 #include "qt/text_actions.h"
@@ -39,6 +40,8 @@ class DropDown final : public QComboBox {
     QList<QStandardItem*> items;
     for (const auto& text : texts_.Rows()) items.push_back(new QStandardItem(Shown(text)));
     auto& rows = dynamic_cast<QStandardItemModel&>(*model());
+    // The open list has the size of the rows that it was opened with.
+    if (IsOpen()) hidePopup();
     rows.clear();
     if (!items.isEmpty()) rows.invisibleRootItem()->appendRows(items);
   }
@@ -53,7 +56,31 @@ class DropDown final : public QComboBox {
   }
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
+  // Asking for the view of a list that was never opened would make it.
+  [[nodiscard]] bool IsOpen() const { return opened_ && view()->isVisible(); }
+  /// Shows a row as the current one, also in the open list.
+  void ShowRow(int row) {
+    if (currentIndex() == row) return;
+    setCurrentIndex(row);
+    if (IsOpen()) view()->setCurrentIndex(model()->index(row, modelColumn()));
+  }
+
+  void showPopup() override {
+    QComboBox::showPopup();
+    opened_ = true;
+    // What is typed into the open list is for the control, as in the closed one.
+    view()->installEventFilter(this);
+  }
+
  protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress && IsOpen() && watched == view()) {
+      const auto keys = KeysOf(dynamic_cast<const QKeyEvent&>(*event));
+      if (!keys.empty() && keys.front().Character != 0 && !keys.front().Alt)
+        return QCoreApplication::sendEvent(this, event);
+    }
+    return QComboBox::eventFilter(watched, event);
+  }
   void mousePressEvent(QMouseEvent* event) override {
     onPress_();
     if (isEnabled() && isVisible()) QComboBox::mousePressEvent(event);
@@ -66,6 +93,7 @@ class DropDown final : public QComboBox {
  private:
   std::function<void()> onPress_;
   RowTexts texts_;
+  bool opened_ = false;
 };
 
 class ComboBoxView final : public ViewOf<shown::RowList> {
@@ -88,10 +116,11 @@ class ComboBoxView final : public ViewOf<shown::RowList> {
     }
     return field_ != nullptr && field_->TakeEditingKey(key);
   }
+  [[nodiscard]] bool IsListOpen() const override { return list_->IsOpen(); }
 
   void Present() override {
     list_->Take(Its());
-    if (list_->currentIndex() != Its().ListIndex()) list_->setCurrentIndex(Its().ListIndex());
+    list_->ShowRow(Its().ListIndex());
     list_->updateGeometry();
     if (field_ == nullptr) return;
     field_->setReadOnly(text_.Locked());

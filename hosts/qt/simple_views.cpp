@@ -50,6 +50,7 @@ class LabelView final : public ViewOf<shown::Control> {
     // Only the label of a field shows its access key, and only there does "&&" mean "&".
     const auto caption = label_->buddy() != nullptr ? Its().Caption() : PlainCaption(Its().Caption());
     label_->setText(Wrapped(Shown(caption), label_->fontMetrics(), CaptionWidth(*label_)));
+    if (Its().Role() == shown::LabelRole::ColourKey) ShowSign();
     if (!Its().BackColor()) return;
     auto palette = label_->palette();
     auto ground = ColourOf(*Its().BackColor(), palette);
@@ -66,6 +67,14 @@ class LabelView final : public ViewOf<shown::Control> {
   void Click() {
     auto* named = Its().Names();
     if (named != nullptr && named->AsMark() != nullptr) At().Do([named] { return named->Press(); });
+  }
+
+  void ShowSign() {
+    auto font = label_->font();
+    font.setBold(true);
+    label_->setFont(font);
+    label_->setAlignment(Qt::AlignCenter);
+    label_->setText(SignOf(Its()));
   }
 
   QLabel* label_;
@@ -210,6 +219,15 @@ class TimerView final : public ViewOf<shown::Ticker> {
 };
 
 }  // namespace
+
+QString SignOf(const shown::Control& colourKey) {
+  QString sign;
+  for (const auto* control : colourKey.Form().Controls()) {
+    if (control->Role() == shown::LabelRole::ColourKey) sign += u'!';
+    if (control == &colourKey) break;
+  }
+  return sign;
+}
 
 int FieldHeight(const QWidget& widget) {
   QStyleOptionFrame option;

@@ -55,18 +55,35 @@ struct Fault {
   int D1;
   bool (*When)(int D3, int D4);
   std::int16_t Message;
+  int Digit;  // the one that must not stand there
 };
 constexpr std::array<Fault, 4> kFaults = {{
-    {0, [](int, int D4) { return D4 != 0 && D4 != 7 && D4 != 8; }, 1456},
-    {1, [](int D3, int) { return D3 != 0 && D3 != 9 && D3 != 13; }, 1457},
-    {2, [](int D3, int) { return D3 == 8 || D3 == 12; }, 1458},
-    {10, [](int D3, int) { return D3 >= 4; }, 1459},
+    {0, [](int, int D4) { return D4 != 0 && D4 != 7 && D4 != 8; }, 1456, 4},
+    {1, [](int D3, int) { return D3 != 0 && D3 != 9 && D3 != 13; }, 1457, 3},
+    {2, [](int D3, int) { return D3 == 8 || D3 == 12; }, 1458, 3},
+    {10, [](int D3, int) { return D3 >= 4; }, 1459, 3},
 }};
+constexpr Fault kFaultOfMid{0, nullptr, 1455, 3};
+
+/// What is wrong with a code; null where its digits may stand together.
+const Fault* FaultIn(const std::string& code, ePanelType panelType) {
+  const int D1 = HexDigitAt(code, 1);
+  const int D3 = HexDigitAt(code, 3);
+  if (panelType == ePanelType::OakMid) return (D1 == 1 || D1 == 2) && D3 != 0 ? &kFaultOfMid : nullptr;
+  const auto fault = std::find_if(kFaults.begin(), kFaults.end(), [&](const auto& row) { return row.D1 == D1; });
+  return fault == kFaults.end() || !fault->When(D3, HexDigitAt(code, 4)) ? nullptr : &*fault;
+}
 
 }  // namespace
 
 frmPointCodesOak::frmPointCodesOak() {
   cmbDigit.OnClick([this](int Index) { cmbDigit_Click(Index); });
+  for (const int digit : {3, 4}) {
+    cmbDigit[digit].FindObjection = [this, digit] {
+      const auto* fault = FaultIn(lblPointCode.Caption(), PanelType);
+      return fault == nullptr || fault->Digit != digit ? std::string() : GetLocalText(fault->Message);
+    };
+  }
   cmdOK.Click = [this] { cmdOK_Click(); };
 }
 
@@ -117,30 +134,15 @@ void frmPointCodesOak::cmbDigit_Click(int Index) {
 }
 
 void frmPointCodesOak::cmdOK_Click() {
-  const bool valid = PanelType == ePanelType::OakMid ? ValidatePointCodeMid() : ValidatePointCode();
-  if (valid) Form.HideWith(ExitCode::OK);
+  if (ValidatePointCode()) Form.HideWith(ExitCode::OK);
 }
 
 bool frmPointCodesOak::ValidatePointCode() {
-  const auto code = lblPointCode.Caption();
-  const auto fault =
-      std::find_if(kFaults.begin(), kFaults.end(), [&](const auto& row) { return row.D1 == HexDigitAt(code, 1); });
-  if (fault == kFaults.end() || !fault->When(HexDigitAt(code, 3), HexDigitAt(code, 4))) return true;
-  TellFault(fault->Message);
-  return false;
-}
-
-bool frmPointCodesOak::ValidatePointCodeMid() {
-  const auto code = lblPointCode.Caption();
-  const int D1 = HexDigitAt(code, 1);
-  if ((D1 != 1 && D1 != 2) || HexDigitAt(code, 3) == 0) return true;
-  TellFault(1455);
-  return false;
-}
-
-void frmPointCodesOak::TellFault(std::int16_t message) {
-  SkipFailure([&] { Form.ShowMessage(GetLocalText(message), Message::Warning, GetLocalText(262)); },
+  const auto* fault = FaultIn(lblPointCode.Caption(), PanelType);
+  if (fault == nullptr) return true;
+  SkipFailure([&] { Form.ShowMessage(GetLocalText(fault->Message), Message::Warning, GetLocalText(262)); },
               [&] { cmbDigit[3].SetFocus(); });
+  return false;
 }
 
 }  // namespace orlin

@@ -19,15 +19,13 @@ class frmPointCodesOak {
   void cmdOK_Click();
   // Whether the digits may stand together; else the operator has been told.
   bool ValidatePointCode();
-  bool ValidatePointCodeMid();
-  void TellFault(std::int16_t message);
 
   Dialog Form{"frmPointCodesOak", 1386, {.InitialisesServices = true, .ReleasesServices = true}};
 
   Label lblPointText{Form, "lblPointText"};
   ControlArray<Label, 5, 1> lblDigit{Form, "lblDigit", {1391, 1390, 1389, 1388, 1387}};
   ControlArray<ComboBox, 5, 1> cmbDigit{Form, "cmbDigit"};
-  Label lblPointCode{Form, "lblPointCode", {}, Label::ValueOf(lblPointText)};
+  Label lblPointCode{Form, "lblPointCode", {}, Label::CodeOf(lblPointText, cmbDigit)};
   OKButton cmdOK{Form};
   CancelButton cmdCancel{Form};
 

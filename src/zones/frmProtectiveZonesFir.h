@@ -25,7 +25,7 @@ class frmProtectiveZonesFir {
   Label lblZoneText{Form, "lblZoneText", 10873};
   ControlArray<Label, 5> lblDigit{Form, "lblDigit", {10871, 10872, 10869, 10870, 10868}};
   ControlArray<ComboBox, 5> cmbDigit{Form, "cmbDigit"};
-  Label lblZoneCode{Form, "lblZoneCode", "8888", Label::ValueOf(lblZoneText)};
+  Label lblZoneCode{Form, "lblZoneCode", "8888", Label::CodeOf(lblZoneText, cmbDigit)};
   OKButton cmdOK{Form};
   CancelButton cmdCancel{Form};
 

@@ -35,10 +35,21 @@ constexpr std::array<Pairing, 3> kPairings = {{
 
 bool Holds(std::string_view digits, char digit) { return digits.find(digit) != std::string_view::npos; }
 
+/// What the first two digits of a code break; null where they may stand together.
+const Pairing* BrokenBy(const std::string& code) {
+  const auto pairing = std::find_if(kPairings.begin(), kPairings.end(),
+                                    [&](const auto& row) { return Holds(row.FirstDigits, code[0]); });
+  return pairing == kPairings.end() || Holds(pairing->SecondDigits, code[1]) ? nullptr : &*pairing;
+}
+
 }  // namespace
 
 frmZoneFuncsWillow::frmZoneFuncsWillow() {
   cmbDigit.OnClick([this](int) { cmbDigit_Click(); });
+  cmbDigit[1].FindObjection = [this] {
+    const auto* broken = BrokenBy(lblZoneCode.Caption());
+    return broken == nullptr ? std::string() : GetLocalText(broken->ElseMessage);
+  };
   cmdOK.Click = [this] { cmdOK_Click(); };
 }
 
@@ -74,11 +85,9 @@ void frmZoneFuncsWillow::cmdOK_Click() {
 }
 
 bool frmZoneFuncsWillow::ValidateZoneCode() {
-  const std::string code = lblZoneCode.Caption();
-  const auto pairing = std::find_if(kPairings.begin(), kPairings.end(),
-                                    [&](const auto& row) { return Holds(row.FirstDigits, code[0]); });
-  if (pairing == kPairings.end() || Holds(pairing->SecondDigits, code[1])) return true;
-  SkipFailure([&] { Form.ShowMessage(GetLocalText(pairing->ElseMessage), Message::OkOnly, GetLocalText(262)); },
+  const auto* broken = BrokenBy(lblZoneCode.Caption());
+  if (broken == nullptr) return true;
+  SkipFailure([&] { Form.ShowMessage(GetLocalText(broken->ElseMessage), Message::OkOnly, GetLocalText(262)); },
               [&] { cmbDigit[1].SetFocus(); });
   return false;
 }

@@ -25,7 +25,7 @@ class frmZoneFuncsWillow {
   Label lblZoneText{Form, "lblZoneText", 1750};
   ControlArray<Label, 4> lblDigit{Form, "lblDigit", {1391, 1390, 1389, 1388}};
   ControlArray<ComboBox, 4> cmbDigit{Form, "cmbDigit"};
-  Label lblZoneCode{Form, "lblZoneCode", "8888", Label::ValueOf(lblZoneText)};
+  Label lblZoneCode{Form, "lblZoneCode", "8888", Label::CodeOf(lblZoneText, cmbDigit)};
   OKButton cmdOK{Form};
   CancelButton cmdCancel{Form};
 };

@@ -261,6 +261,13 @@ class Control {
   [[nodiscard]] const Ticker* AsTicker() const noexcept { return const_cast<Control*>(this)->AsTicker(); }
   [[nodiscard]] const Table* AsTable() const noexcept { return const_cast<Control*>(this)->AsTable(); }
 
+  /// Of a label that shows a code: the lists that the code is made of, in the order of its characters. A row stands for
+  /// the character that its text begins with; a list that is not visible has none. Else empty.
+  [[nodiscard]] virtual std::vector<Control*> CodeLists() const { return {}; }
+  /// What the dialog would refuse of what stands here now, in words for the operator; else empty. A host can tell it
+  /// beside the control before the operator is through.
+  [[nodiscard]] virtual std::string Objection() const { return {}; }
+
  protected:
   ~Control() = default;
 };

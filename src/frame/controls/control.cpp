@@ -108,6 +108,12 @@ Refusal Control::Focus() {
   return Approach();
 }
 
+std::string Control::Objection() const {
+  std::string objection;
+  if (FindObjection) SkipFailure([&] { objection = FindObjection(); });
+  return objection;
+}
+
 Refusal Control::Press() { return name_ + " is a " + std::string(KindName(kind_)) + ", which cannot be pressed"; }
 
 void Control::LoadTexts() {

@@ -81,6 +81,7 @@ class Control : public shown::Control {
   [[nodiscard]] shown::Control* Names() const override { return nullptr; }
   [[nodiscard]] shown::Control* ToldBy() const noexcept override { return nullptr; }
   [[nodiscard]] std::string SpokenName() const override { return spokenName_; }
+  [[nodiscard]] std::string Objection() const override;
   Refusal Focus() final;
   Refusal Press() override;
 
@@ -99,6 +100,8 @@ class Control : public shown::Control {
 
   Event<> GotFocus;
   Event<> LostFocus;
+  /// What `Objection` tells. It runs only where a host asks, so it changes nothing.
+  std::function<std::string()> FindObjection;
 
  protected:
   Control(ControlKind kind, const Container& in, std::string_view name, const CaptionSource& caption,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "frame/controls/control.h"
 
 namespace orlin {
@@ -10,6 +12,7 @@ struct LabelUse {
 
   shown::LabelRole Role;
   Control* ToldBy;
+  std::vector<shown::Control*> CodeLists = {};
 };
 
 class Label : public Control {
@@ -26,6 +29,13 @@ class Label : public Control {
   static constexpr auto Unit = shown::LabelRole::Unit;
   static constexpr auto Separator = shown::LabelRole::Separator;
   static LabelUse ValueOf(Control& label) { return {shown::LabelRole::Value, &label}; }
+  /// A value that is a code, one character from the row of each list.
+  template <class Lists>
+  static LabelUse CodeOf(Control& label, Lists& lists) {
+    auto use = ValueOf(label);
+    for (auto& list : lists) use.CodeLists.push_back(&list);
+    return use;
+  }
   static LabelUse ColourOf(Control& label) { return {shown::LabelRole::ColourKey, &label}; }
 
   [[nodiscard]] shown::LabelRole Role() const noexcept override { return use_.Role; }
@@ -34,6 +44,7 @@ class Label : public Control {
   /// control with its index in the array that follows.
   [[nodiscard]] shown::Control* Names() const override;
   [[nodiscard]] shown::Control* ToldBy() const noexcept override { return use_.ToldBy; }
+  [[nodiscard]] std::vector<shown::Control*> CodeLists() const override { return use_.CodeLists; }
 
  private:
   LabelUse use_;
