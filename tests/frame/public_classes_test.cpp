@@ -126,45 +126,50 @@ TEST_F(LateBinding, PropertiesConvertWhatTheyAreSetTo) {
 }
 
 TEST_F(LateBinding, ListsAreWorkedByName) {
-  for (const std::string name : {"clsListItems", "clsRanges"}) {
-    const auto list = Make(name);
-    const bool choices = name == "clsListItems";
-    const auto added = Call(*list, "add", {"a", 1, 2});
+  for (const bool choices : {true, false}) {
+    const auto make = [&] { return Make(choices ? "clsListItems" : "clsRanges"); };
+    const auto list = make(), copy = make(), read = make(), element = Make(choices ? "clsListItem" : "clsRange");
+    const auto added = Call(*list, "add", {"a", 1, 2}), other = Call(*list, "Add", {"b"});
+    const auto* const second = choices ? "Value" : "Max";
     EXPECT_EQ(In(added).Get(choices ? "Item" : "Min"), choices ? Value("1") : Value(1));
-    EXPECT_EQ(In(added).Get(choices ? "Value" : "Max"), Value(2));
-    Call(*list, "Add", {"b"});
-    EXPECT_EQ(In(Call(*list, "Item", {2})).Get(choices ? "Value" : "Max"), choices ? Value() : Value(std::int16_t{0}));
+    EXPECT_EQ(In(added).Get(second), Value(2));
+    EXPECT_EQ(In(other).Get(second), choices ? Value() : Value(std::int16_t{0}));
     EXPECT_EQ(list->Get("Count"), Value(2));
-    EXPECT_EQ(Call(*list, "Item", {"A"}), added);
-    EXPECT_EQ(Call(*list, "Item", {3}), Value(ObjectPtr()));
-    EXPECT_EQ(Call(*list, "NewEnum"), Value(Array({added, Call(*list, "Item", {"b"})}, 1)));
 
-    const auto form = Call(*list, "Serialize");
-    const auto copy = Make(name), read = Make(name);
-    EXPECT_EQ(Call(*copy, "Copy", {list}), Call(*read, "DeSerialize", {form}));
-    for (const auto& other : {copy, read}) EXPECT_EQ(Call(*other, "Serialize"), form);
-    EXPECT_EQ(Call(*list, "Remove", {"a"}), Value());
-    EXPECT_EQ(list->Get("Count"), Value(1));
-
-    const auto element = Make(choices ? "clsListItem" : "clsRange");
-    EXPECT_EQ(Call(*element, "DeSerialize", {Call(In(added), "Serialize")}), Value(0));
-    EXPECT_EQ(element->Get("Key"), Value(""));
-    if (choices) {
-      EXPECT_EQ(Call(*element, "Copy", {added}), Value());
-      EXPECT_EQ(Call(*element, "Copy", {"no object"}), Value());
-      EXPECT_EQ(Call(*element, "Serialize"), Call(In(added), "Serialize"));
-      EXPECT_EQ(FailureOf([&] { Call(*list, "Add", {"B"}); }), failures::KeyExists);
-    } else {
-      EXPECT_EQ(Call(*list, "Add", {"B"}), Value(ObjectPtr()));
+    const auto form = Call(*list, "Serialize"), fields = Call(In(added), "Serialize");
+    const struct {
+      LateBoundObject& Of;
+      const char* Operation;
+      std::vector<Value> Arguments;
+      Value Result;
+      int Failure = 0;
+    } calls[] = {{*list, "Item", {"A"}, added},
+                 {*list, "Item", {3}, ObjectPtr()},
+                 {*list, "NewEnum", {}, Array({added, other}, 1)},
+                 {*copy, "Copy", {list}, Value()},
+                 {*copy, "Serialize", {}, form},
+                 {*read, "DeSerialize", {form}, Value()},
+                 {*read, "Serialize", {}, form},
+                 {*element, "DeSerialize", {fields}, 0},
+                 {*element, "Copy", {added}, Value(), choices ? 0 : failures::InvalidCall},
+                 {*element, "Copy", {"no object"}, Value(), choices ? 0 : failures::InvalidCall},
+                 {*list, "Add", {"B"}, ObjectPtr(), choices ? failures::KeyExists : 0},
+                 {*list, "Remove", {"a"}, Value()},
+                 {*list, "Item", {"a"}, ObjectPtr()},
+                 {*list, "Add", {}, Value(), failures::InvalidCall},
+                 {*list, "Item", {1, 2}, Value(), failures::InvalidCall},
+                 {*list, "Clear", {}, Value(), failures::InvalidCall},
+                 {*list, "Copy", {1}, Value(), failures::ObjectRequired},
+                 {*list, "Copy", {added}, Value(), failures::TypeMismatch}};
+    for (const auto& [of, operation, arguments, result, failure] : calls) {
+      Value returned = result;
+      EXPECT_EQ(
+          FailureOf([&, &object = of, &what = operation, &given = arguments] { returned = Call(object, what, given); }),
+          failure)
+          << operation;
+      EXPECT_EQ(returned, result) << operation;
     }
-    const std::tuple<const char*, std::vector<Value>, int> refused[] = {{"Add", {}, failures::InvalidCall},
-                                                                        {"Item", {1, 2}, failures::InvalidCall},
-                                                                        {"Clear", {}, failures::InvalidCall},
-                                                                        {"Copy", {1}, failures::ObjectRequired},
-                                                                        {"Copy", {added}, failures::TypeMismatch}};
-    for (const auto& [operation, arguments, failure] : refused) {
-      EXPECT_EQ(FailureOf([&, &what = operation, &given = arguments] { Call(*list, what, given); }), failure);
-    }
+    EXPECT_EQ(element->Get("Key"), Value(choices ? "a" : ""));
   }
   std::vector<Value> review{Array(), Array(), std::make_shared<SecurityLevels>(), 49, false};
   EXPECT_EQ(Make("clsErrorMessageNova")->Invoke("Display", review), Value(0));
@@ -175,19 +180,18 @@ TEST_F(FrameTest, PublicClassesAreFoundByNameAndCreatedOnceRegistered) {
   EXPECT_NE(FindPublicClass(name), nullptr);
   EXPECT_EQ(FindPublicClass(name), FindPublicClass("clsZoneFunctionsWillow"));
   EXPECT_EQ(FindPublicClass("clsUnknown"), nullptr);
-  EXPECT_EQ(FailureOf([&] { return CreateObject(name); }), failures::CannotCreateObject);
+  const auto create = [&] { return std::dynamic_pointer_cast<LateBoundObject>(CreateObject(name)); };
+  EXPECT_EQ(FailureOf(create), failures::CannotCreateObject);
   DllRegisterServer();
-  {
-    const auto object = std::dynamic_pointer_cast<LateBoundObject>(CreateObject(name));
-    ASSERT_NE(object, nullptr);
-    EXPECT_EQ(DllCanUnloadNow(), 1);
-    std::vector<Value> arguments{std::int16_t{5}, "4000"};
-    EXPECT_EQ(object->Invoke("Display", arguments), Value(1));
-    EXPECT_EQ(FailureOf([&] { object->Invoke("Hide", arguments); }), failures::InvalidCall);
-  }
+  auto object = create();
+  EXPECT_EQ(DllCanUnloadNow(), 1);
+  std::vector<Value> arguments{std::int16_t{5}, "4000"};
+  EXPECT_EQ(object->Invoke("Display", arguments), Value(1));
+  EXPECT_EQ(FailureOf([&] { object->Invoke("Hide", arguments); }), failures::InvalidCall);
+  object.reset();
   EXPECT_EQ(DllCanUnloadNow(), 0);
   DllUnregisterServer();
-  EXPECT_EQ(FailureOf([&] { return CreateObject(name); }), failures::CannotCreateObject);
+  EXPECT_EQ(FailureOf(create), failures::CannotCreateObject);
 }
 
 }  // namespace
