@@ -2,9 +2,6 @@
 
 #include <array>
 #include <cstdio>
-#include <memory>
-#include <sstream>
-#include <tuple>
 
 #include <sys/wait.h>
 
@@ -21,7 +18,6 @@ namespace {
 class CommandTest : public FolderTest {
  protected:
   CommandTest() {
-    // Nobody sits in front of a screen.
     for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) unsetenv(display);
     for (const char* language : {"LC_ALL", "LC_MESSAGES", "LANG"}) unsetenv(language);
   }
@@ -44,18 +40,27 @@ Ended Shell(const std::string& line) {
 const std::string kShow = R"({"event":"show","dialog":"frmZoneFuncsWillow","caption":"Zone Function"})"
                           "\n";
 
-TEST_F(CommandTest, PlaysTheExample) {
-  const auto ended =
-      Shell(ORLIN_HOST R"( edit clsZoneFunctionsWillow --stored ZoneNum=5 ZoneCode=\"5111\" --script )" ORLIN_EXAMPLES
-                       "/zone.script 2>&1");
-  EXPECT_EQ(ended.Status, 0);
-  EXPECT_TRUE(ended.Out.starts_with(kShow + R"({"event":"message","text":")")) << ended.Out;
-  EXPECT_TRUE(
-      ended.Out.ends_with("\"answer\":1}\n"
-                          R"({"event":"return","result":0,"arguments":{"ZoneNum":{"type":"Integer","value":5},)"
-                          R"("ZoneCode":{"type":"String","value":"2111"}}})"
-                          "\n"))
-      << ended.Out;
+TEST_F(CommandTest, IsAProgram) {
+  const std::string edit = ORLIN_HOST " edit clsZoneFunctionsWillow ";
+  const auto played =
+      Shell(edit + R"(--stored ZoneNum=5 ZoneCode=\"5111\" --script )" ORLIN_EXAMPLES "/zone.script 2>&1");
+  EXPECT_EQ(played.Status, 0);
+  EXPECT_TRUE(played.Out.starts_with(kShow + R"({"event":"message","text":")")) << played.Out;
+  EXPECT_TRUE(played.Out.ends_with(
+      R"({"event":"return","result":0,"arguments":{"ZoneNum":{"type":"Integer","value":5},"ZoneCode":{"type":"String",)"
+      "\"value\":\"2111\"}}}\n"))
+      << played.Out;
+  // Nobody sits in front of a screen, a disk is full, and a reader has gone.
+  const std::pair<std::string, std::string> fails[] = {
+      {edit + "--host qt", "name an operator's script with --script FILE"},
+      {edit + "--host qt --script -", "name an operator's script with --script FILE"},
+      {"exec 3>/dev/full; " + edit + "--script - >&3", "orlin-host: the output cannot be written\n"},
+      {"exec 3> >(:); wait $!; " + edit + "--script - >&3", "orlin-host: the output cannot be written\n"}};
+  for (const auto& [line, what] : fails) {
+    const auto ended = Shell("exec 4>&1; " + line + " </dev/null 2>&4");
+    EXPECT_EQ(ended.Status, 2) << line;
+    EXPECT_NE(ended.Out.find(what), std::string::npos) << ended.Out;
+  }
 }
 
 TEST_F(CommandTest, TellsWhatMakesNoSenseInOneLine) {
@@ -106,20 +111,6 @@ TEST_F(CommandTest, TellsWhatMakesNoSenseInOneLine) {
     EXPECT_NE(ended.Err.find(what), std::string::npos) << ended.Err;
     EXPECT_EQ(ended.Err.find('\n'), ended.Err.size() - 1) << ended.Err;
     EXPECT_EQ(ended.Err.find("hunter2"), std::string::npos) << ended.Err;
-  }
-}
-
-TEST_F(CommandTest, TellsAScreenOrAnOutputThatIsNotThere) {
-  for (const char* script : {"", " --script -"}) {
-    const auto ended = Shell(ORLIN_HOST " edit clsZoneFunctionsWillow --host qt 2>&1 </dev/null" + std::string(script));
-    EXPECT_EQ(ended.Status, 2);
-    EXPECT_NE(ended.Out.find("name an operator's script with --script FILE"), std::string::npos) << ended.Out;
-  }
-  // A disk that is full, and a reader that has gone.
-  for (const std::string output : {"exec 3>/dev/full", "exec 3> >(:); wait $!"}) {
-    const auto ended = Shell(output + "; " ORLIN_HOST " edit clsZoneFunctionsWillow --script - </dev/null 2>&1 >&3");
-    EXPECT_EQ(ended.Status, 2);
-    EXPECT_EQ(ended.Out, "orlin-host: the output cannot be written\n");
   }
 }
 
@@ -183,20 +174,15 @@ TEST_F(CommandTest, TakesRightsAndFiles) {
 }
 
 TEST_F(CommandTest, ListsThePublicClasses) {
-  const std::pair<std::string, std::string> calls[] = {
+  const std::pair<const char*, const char*> calls[] = {
       {"list", "clsLstTime_Rowan        Index:Integer res*\n"},
       {"list clspasscodeLen", "  bChangedStatus   Integer  required, comes back changed\n"},
       {"list clspasscodeLen", "  SecurityLevels   rights   optional, the records of --level\n"},
       {"list --json", R"("parameters":[{"name":"Index","kind":"Integer","required":true,"changes":false},)"},
       {"list clspasscodeLen --json", R"({"name":"bThroughSIA","kind":"Integer","required":false,)"},
       {"--version", "orlin-host 1."},
-      {"--help", "describe                    Prints what raw values mean"},
       {"edit --help", "Operator:\n  --script FILE"}};
-  for (const auto& [line, what] : calls) {
-    const auto ended = RunHost(line);
-    EXPECT_EQ(ended.Status, 0) << what;
-    EXPECT_NE(ended.Out.find(what), std::string::npos) << ended.Out;
-  }
+  for (const auto& [line, what] : calls) EXPECT_NE(RunHost(line).Out.find(what), std::string::npos) << line;
 }
 
 TEST_F(CommandTest, SpeaksToPeopleInTheirLanguage) {

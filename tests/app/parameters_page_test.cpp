@@ -1,7 +1,5 @@
 #include <algorithm>
-#include <map>
 #include <regex>
-#include <sstream>
 
 #include "support/dialog_test.h"
 #include "support/temporary_folder.h"

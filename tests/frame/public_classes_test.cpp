@@ -35,14 +35,11 @@ TEST(PublicClass, DescribesItsParameters) {
 
 TEST(PublicClass, ConvertsCallsAndWritesBackOrRefusesBeforeAnythingIsDone) {
   const std::int16_t one = 1;
-  const struct {
-    std::vector<Value> Given;
-    int Failure;
-    std::vector<Value> After;
-  } cases[] = {{{"x", "41", Value(), one, 7}, 0, {"x", std::int16_t{42}, "7!", true, "7"}},
-               {{"fail", one, Value(), false, "w"}, 11, {"fail", std::int16_t{2}, "w?", false, "w"}},
-               {{"x", "no number", "kept", false, ""}, failures::TypeMismatch, {"x", "no number", "kept", false, ""}},
-               {{"x"}, failures::InvalidCall, {"x"}}};
+  const std::tuple<std::vector<Value>, int, std::vector<Value>> cases[] = {
+      {{"x", "41", Value(), one, 7}, 0, {"x", std::int16_t{42}, "7!", true, "7"}},
+      {{"fail", one, Value(), false, "w"}, 11, {"fail", std::int16_t{2}, "w?", false, "w"}},
+      {{"x", "no number", "kept", false, ""}, failures::TypeMismatch, {"x", "no number", "kept", false, ""}},
+      {{"x"}, failures::InvalidCall, {"x"}}};
   for (auto [arguments, failure, after] : cases) {
     EXPECT_EQ(FailureOf([&, &given = arguments] { Sample().Display(given); }), failure);
     EXPECT_EQ(arguments, after);
@@ -93,24 +90,19 @@ class LateBinding : public FrameTest {
 
 TEST_F(LateBinding, PropertiesConvertWhatTheyAreSetTo) {
   const Value one = std::int16_t{1};
-  const struct {
-    const char* Class;
-    std::vector<const char*> Properties;
-    Value Given, Held;
-    int Failure = 0;
-  } cases[] = {
-      {"clsListItem", {"Key", "Item", "description"}, 1.5, "1.5"},
-      {"clsListItem", {"COLOR"}, "7", 7},
-      {"clsListItem", {"Hidden", "Dynamic"}, "True", true},
-      {"clsListItem", {"i", "S", "p"}, true, std::int16_t{-1}},
-      {"clsListItem", {"Value"}, Array({"any"}), Array({"any"})},
-      {"clsRange", {"Key"}, 1, "1"},
-      {"clsRange", {"Min", "Max"}, 2.5, 2.5},
-      {"clsRange", {"Color"}, one, 1},
-      {"clsListItems", {"iDisplayValueSelection"}, "1", one},
-      {"clsErrorMessageNova", {"ParameterName", "AllowedCharacters"}, 1, "1"},
-      {"clsErrorMessageNova", {"AreaNo"}, 1, one},
-      {"clsErrorMessageNova", {"DefaultVal", "SIARangeMin", "SIARangeMax", "DesiredVal", "AllowedString"}, 1, 1},
+  const std::tuple<const char*, std::vector<const char*>, Value, Value, int> cases[] = {
+      {"clsListItem", {"Key", "Item", "description"}, 1.5, "1.5", 0},
+      {"clsListItem", {"COLOR"}, "7", 7, 0},
+      {"clsListItem", {"Hidden", "Dynamic"}, "True", true, 0},
+      {"clsListItem", {"i", "S", "p"}, true, std::int16_t{-1}, 0},
+      {"clsListItem", {"Value"}, Array({"any"}), Array({"any"}), 0},
+      {"clsRange", {"Key"}, 1, "1", 0},
+      {"clsRange", {"Min", "Max"}, 2.5, 2.5, 0},
+      {"clsRange", {"Color"}, one, 1, 0},
+      {"clsListItems", {"iDisplayValueSelection"}, "1", one, 0},
+      {"clsErrorMessageNova", {"ParameterName", "AllowedCharacters"}, 1, "1", 0},
+      {"clsErrorMessageNova", {"AreaNo"}, 1, one, 0},
+      {"clsErrorMessageNova", {"DefaultVal", "SIARangeMin", "SIARangeMax", "DesiredVal", "AllowedString"}, 1, 1, 0},
       {"clsListItem", {"Hidden", "Color"}, "maybe", Value(), failures::TypeMismatch},
       {"clsErrorMessageNova", {"AreaNo"}, 40000, Value(), failures::Overflow},
       {"clsListItems", {"Count", "Item"}, 1, Value(), failures::InvalidCall},

@@ -1,8 +1,5 @@
 #include "script/script_host.h"
 
-#include <sstream>
-#include <tuple>
-
 #include <gtest/gtest-spi.h>
 
 #include "app/command_line/usage_error.h"

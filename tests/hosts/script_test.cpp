@@ -1,7 +1,6 @@
 #include "script/script.h"
 
 #include <functional>
-#include <vector>
 
 #include "support/temporary_folder.h"
 

@@ -3,7 +3,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QTableWidget>
-#include <functional>
 
 #include "app/account/account.h"
 #include "app/account/account_command.h"
