@@ -1,6 +1,3 @@
-#include <memory>
-#include <sstream>
-
 #include "OrlinCustomDialogs/components.h"
 #include "OrlinCustomDialogs/security_levels.h"
 

@@ -1,7 +1,3 @@
-#include "app/description/describe.h"
-
-#include <sstream>
-
 #include "app/usage/status.h"
 #include "support/dialog_test.h"
 #include "support/temporary_folder.h"
@@ -9,38 +5,16 @@
 namespace orlin::testing {
 namespace {
 
-struct Told {
-  int Status = -1;
-  std::string Out;
-};
+Ended Described(const std::string& call) { return RunHost("describe --language en " + call); }
 
-Told Describing(DescribeOptions options) {
-  std::ostringstream out;
-  const int status = Describe(std::move(options), out);
-  return {status, out.str()};
-}
-
-/// The class and its arguments, with a blank between them.
-DescribeOptions Options(const std::string& call, bool json = false) {
-  const auto words = SplitAtBlanks(call);
-  DescribeOptions options;
-  options.Class = words.front();
-  options.Arguments.assign(words.begin() + 1, words.end());
-  options.Json = json;
-  return options;
-}
-
-Json Controls(const std::string& call) { return Json::parse(Describing(Options(call, true)).Out).at("controls"); }
+Json InJson(const std::string& call) { return Json::parse(Described("--json " + call).Out); }
 
 constexpr const char* kPasscodes =
     R"(clspasscodeLen vresult=["1234","12",""*248] vpresent=["1234","12",""*248] vPasscodeLength=4 iTotalNoOfUsers=2)";
 constexpr const char* kLists = "clsSkedFunc_HazelKin Byte1=11 Byte2=3 Byte3=0";
 
 TEST(DescribeText, TellsWhatTheOperatorWouldSee) {
-  const struct {
-    const char* Call;
-    const char* Told;
-  } cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
       // a label that is a heading of another one, and labels of an array
       {"clsZoneFunctionsWillow ZoneNum=5 ZoneCode=\"4000\"",
        R"(Zone Function
@@ -105,7 +79,7 @@ TEST(DescribeText, TellsWhatTheOperatorWouldSee) {
 )"},
   };
   for (const auto& [call, text] : cases) {
-    const auto told = Describing(Options(call));
+    const auto told = Described(call);
     EXPECT_EQ(told.Out, text);
     EXPECT_EQ(told.Status, status::Done);
   }
@@ -113,9 +87,8 @@ TEST(DescribeText, TellsWhatTheOperatorWouldSee) {
 
 TEST(DescribeText, TellsMessagesAndWhereAFailureArose) {
   const TemporaryFolder drives;
-  auto options = Options("clsPanelNotes PanelGUID=x NoteHeader=y NoteTypeID=3");
-  options.Platform.DrivesFolder = drives.Path();
-  const auto told = Describing(options);
+  const auto call = "clsPanelNotes PanelGUID=x NoteHeader=y NoteTypeID=3 --drives " + drives.Path().string();
+  const auto told = Described(call);
   EXPECT_EQ(told.Status, status::Failed);
   EXPECT_TRUE(
       told.Out.starts_with("clsPanelNotes\n  ! cannot be shown: failure 3049 in modStoreObj.OpenSecureDB(), "
@@ -123,15 +96,14 @@ TEST(DescribeText, TellsMessagesAndWhereAFailureArose) {
       << told.Out;
   EXPECT_NE(told.Out.find("\n  ! message: Cannot open database "), std::string::npos) << told.Out;
   EXPECT_TRUE(std::filesystem::is_empty(drives.Path()));
-  options.Json = true;
-  const auto notes = Json::parse(Describing(options).Out).at("notes");
+  const auto notes = InJson(call).at("notes");
   EXPECT_EQ(notes.at(0).at("failure"), 3049);
   EXPECT_EQ(notes.at(0).at("where"), "modStoreObj.OpenSecureDB()");
   EXPECT_EQ(notes.at(1).at("title"), "Tolmar");
 }
 
 TEST(DescribeJson, TellsEveryControl) {
-  const auto out = Describing(Options("clsPanelGMT iHrs=5", true)).Out;
+  const auto out = Described("--json clsPanelGMT iHrs=5").Out;
   EXPECT_TRUE(out.starts_with(
       R"j({"class":"clsPanelGMT","dialog":"frmPanelGMT","title":"Panel Time","controls":[{"control":"txthrsfromGMT",)j"
       R"j("kind":"TextBox","caption":"Panel Time differs from GMT by","frame":"Hours From GMT(UTC)","enabled":true,)j"
@@ -141,19 +113,20 @@ TEST(DescribeJson, TellsEveryControl) {
       out.ends_with(R"j("caption":"Daylight Savings","frame":"Hours From GMT(UTC)","enabled":true,"on":false}],)j"
                     "\"notes\":[]}\n"))
       << out;
-  EXPECT_EQ(Describing(Options("clsPanelGMT iHrs=13", true)).Out,
+  EXPECT_EQ(Described("--json clsPanelGMT iHrs=13").Out,
             R"({"class":"clsPanelGMT","dialog":null,"title":null,"controls":[],)"
             R"("notes":[{"failure":380,"description":"Invalid property value","where":""}]})"
             "\n");
 }
 
 TEST(DescribeJson, TellsWhatIsChosen) {
-  const auto lists = Controls(kLists);
+  const auto lists = InJson(kLists).at("controls");
   EXPECT_EQ(lists.at(1).at("selected"), "Access level 3");
   EXPECT_EQ(lists.at(2).at("selected"), nullptr);
   EXPECT_FALSE(lists.at(2).contains("rows"));
-  EXPECT_EQ(Controls("clsSkedFunc_Rowan Byte1=1 Byte2=3").at(1).at("selected"), Json({"Area 7", "Area 8"}));
-  const auto passcodes = Controls(kPasscodes);
+  EXPECT_EQ(InJson("clsSkedFunc_Rowan Byte1=1 Byte2=3").at("controls").at(1).at("selected"),
+            Json({"Area 7", "Area 8"}));
+  const auto passcodes = InJson(kPasscodes).at("controls");
   EXPECT_EQ(passcodes.at(0).at("cells").at(2), Json({"1", "12"}));
   EXPECT_EQ(passcodes.at(0).at("remarks"), Json::parse(R"([{"row":1,"col":1,"text":"Duplicate/Duress Passcodes"},
                                                              {"row":2,"col":1,"text":"Unusable Passcodes"}])"));
@@ -163,18 +136,17 @@ TEST(DescribeJson, TellsWhatIsChosen) {
 
 TEST(DescribeAccount, GoesOnBehindAValueThatCannotBeShown) {
   const TemporaryFolder folder;
-  DescribeOptions options;
-  options.Account = folder.Write("account.json", R"({"panel": "x", "parameters": [
+  const auto account = folder.Write("account.json", R"({"panel": "x", "parameters": [
     {"name": "A", "class": "clsPanelGMT", "arguments": {"iHrs": "13"}},
     {"name": "B", "class": "clsZoneFunctionsWillow", "arguments": {"ZoneNum": "5", "ZoneCode": "\"5111\""}}]})");
-  const auto told = Describing(options);
+  const auto told = Described("--account " + account.string());
   EXPECT_TRUE(
       told.Out.starts_with("A: clsPanelGMT\n  ! cannot be shown: failure 380, Invalid property value\n\n"
                            "B: Zone Function\n  Function code of zone 5:  5111\n"))
       << told.Out;
   EXPECT_EQ(told.Status, status::Failed);
-  options.Json = true;
-  EXPECT_TRUE(Describing(options).Out.starts_with(R"({"name":"A","class":"clsPanelGMT","dialog":null)"));
+  EXPECT_TRUE(Described("--json --account " + account.string())
+                  .Out.starts_with(R"({"name":"A","class":"clsPanelGMT","dialog":null)"));
 }
 
 }  // namespace

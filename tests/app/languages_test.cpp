@@ -29,19 +29,6 @@ std::multiset<std::string> Markers(std::string_view text) {
   return markers;
 }
 
-/// A catalogue that notes what it is asked for.
-class NotingCatalogue : public TextCatalogue {
- public:
-  NotingCatalogue(const Language& language, Numbers& asked) : TextCatalogue(nullptr, language), asked_(asked) {}
-  std::string GetLocalTextBASE(std::int16_t id) override {
-    asked_.insert(id);
-    return TextCatalogue::GetLocalTextBASE(id);
-  }
-
- private:
-  Numbers& asked_;
-};
-
 /// Goes through all rows and options of a dialog, then confirms; looks at each step for access keys that clash and for
 /// variables that the dialog did not fill in.
 class Explorer : public OperatorHost {
@@ -125,7 +112,16 @@ Numbers Explored(const Language& language) {
   options.DrivesFolder = folder.Path();
   options.FaultFile = folder.Path() / "Tolmar.err";
   auto platform = StandardPlatform(options);
-  platform.Components["LocalText.clsLocalText"] = [&] { return std::make_shared<NotingCatalogue>(language, asked); };
+  // A catalogue that notes what it is asked for.
+  struct Noting : TextCatalogue {
+    Noting(const Language& texts, Numbers& numbers) : TextCatalogue(nullptr, texts), Asked(numbers) {}
+    std::string GetLocalTextBASE(std::int16_t id) override {
+      Asked.insert(id);
+      return TextCatalogue::GetLocalTextBASE(id);
+    }
+    Numbers& Asked;
+  };
+  platform.Components["LocalText.clsLocalText"] = [&] { return std::make_shared<Noting>(language, asked); };
   const InstalledPlatform installed(std::move(platform));
   const Account account(ORLIN_EXAMPLES "/account.json");
   const auto show = [&](const PublicClass& shown, const std::vector<std::string>& words) {

@@ -52,20 +52,19 @@ class NestedCalls : public ::testing::Test {
   /// What a call tells, without what is told of the calls in it: `inner` while its dialog is shown, the first of these
   /// before each message. Each dialog takes a line of the script, as the operator has it before him.
   std::string Told(std::size_t outer, const Calls& inner, bool nests, const std::filesystem::path& drives) {
-    std::string script;
-    for (std::size_t i = 0; i < 2 * inner.size(); ++i) script += "# inner\n";
+    std::string closes;
+    for (std::size_t i = 0; i < 2 * inner.size(); ++i) closes += nests ? "close\n" : "#\n";
     const auto& name = Panel.Parameters()[outer].Class->Name();
-    script += "click cmdDateTime\nclick cmdAddNote\ndump\nclick ";
-    script += name == "clspasscodeLen" ? "cmdCancel" : name == "clsErrorMessageNova" ? "btnCancel" : "cmdOK";  // ask
-    script += "\n# inner\n";
-    for (auto at = script.find("# inner"); nests && at != std::string::npos; at = script.find("# inner")) {
-      script.replace(at, 7, "close");
-    }
+    const std::string asks = name == "clspasscodeLen"        ? "cmdCancel"
+                             : name == "clsErrorMessageNova" ? "btnCancel"
+                                                             : "cmdOK";
+    const auto script = ParseScript(closes + "click cmdDateTime\nclick cmdAddNote\ndump\nclick " + asks +
+                                    (nests ? "\nclose" : "\n# no other call"));
     std::ostringstream out;
     Trace trace(out);
     auto* const windows = WindowsOfTests();
-    const auto scripted = windows != nullptr ? windows->ScriptedWindows(ParseScript(script), trace, false).Host
-                                             : std::make_shared<ScriptHost>(ParseScript(script), trace, false);
+    const auto scripted = windows != nullptr ? windows->ScriptedWindows(script, trace, false).Host
+                                             : std::make_shared<ScriptHost>(script, trace, false);
     const auto host = std::make_shared<NestingHost>(scripted);
     StandardPlatformOptions options;
     options.Host = host;

@@ -54,11 +54,14 @@ TEST_F(DialogTest, KeyGoesThroughDialogBoxAndPress) {
   EXPECT_EQ(During([&] { Type(U'&'); }).front(), "Form_KeyDown 231");
 }
 
-TEST_F(DialogTest, MaxLengthBindsTheOperatorAndCountsCharacters) {
+TEST_F(DialogTest, MaxLengthAndLockBindTheOperator) {
   EXPECT_EQ(During([&] { txtOne.Paste("\u00E4bcd"); }).back(), "txtOne_KeyPress 100");
   EXPECT_EQ(txtOne.Text(), "\u00E4bc");
   txtOne.SetText("longer");
   EXPECT_EQ(During([&] { txtOne.SetCaret(1, 5), Type(U'a'); }).back(), "txtOne_Change la");
+  txtOne.SetLocked(true);
+  const Log told{"Form_KeyDown 65", "txtOne_KeyDown 65", "txtOne_KeyPress 97", "Form_KeyDown 46", "txtOne_KeyDown 46"};
+  EXPECT_EQ(During([&] { Type(U'a'), Press(keys::Delete); }), told);
 }
 
 TEST_F(DialogTest, PasteGoesThroughTheKeysAndSkipsLineEndsOfSingleLines) {
@@ -67,13 +70,6 @@ TEST_F(DialogTest, PasteGoesThroughTheKeysAndSkipsLineEndsOfSingleLines) {
                  "txtTwo_KeyDown 66", "txtTwo_KeyPress 98", "txtTwo_Change ab"}));
   During([&] { txtNotes.Paste("a\nb\r\nc"); });
   EXPECT_EQ(txtNotes.Text(), "a\r\nb\r\nc");
-}
-
-TEST_F(DialogTest, LockedBoxTakesNoCharacter) {
-  txtOne.SetLocked(true);
-  EXPECT_EQ(
-      During([&] { Type(U'a'), Press(keys::Delete); }),
-      (Log{"Form_KeyDown 65", "txtOne_KeyDown 65", "txtOne_KeyPress 97", "Form_KeyDown 46", "txtOne_KeyDown 46"}));
 }
 
 TEST_F(DialogTest, EnterAndEscapePressTheButtonsWhereTheyAre) {

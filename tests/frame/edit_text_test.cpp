@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -26,11 +27,7 @@ EditText Marked(const std::string& shown) {
 }
 
 TEST(EditText, MovesAndEdits) {
-  const struct {
-    const char* Before;
-    std::function<void(EditText&)> Do;
-    const char* After;
-  } cases[] = {
+  const std::tuple<const char*, std::function<void(EditText&)>, const char*> cases[] = {
       {"a[]b", [](auto& e) { e.Insert(U'x', 0); }, "ax[]b"},
       {"ab[]", [](auto& e) { e.Insert(U'x', 2); }, "ab[]"},
       {"a[b]", [](auto& e) { e.Insert(U'x', 2); }, "ax[]"},

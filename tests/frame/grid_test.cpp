@@ -1,5 +1,3 @@
-#include <tuple>
-
 #include "form_fixture.h"
 #include "frame/controls/all_controls.h"
 

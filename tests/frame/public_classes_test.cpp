@@ -35,14 +35,11 @@ TEST(PublicClass, DescribesItsParameters) {
 
 TEST(PublicClass, ConvertsCallsAndWritesBackOrRefusesBeforeAnythingIsDone) {
   const std::int16_t one = 1;
-  const struct {
-    std::vector<Value> Given;
-    int Failure;
-    std::vector<Value> After;
-  } cases[] = {{{"x", "41", Value(), one, 7}, 0, {"x", std::int16_t{42}, "7!", true, "7"}},
-               {{"fail", one, Value(), false, "w"}, 11, {"fail", std::int16_t{2}, "w?", false, "w"}},
-               {{"x", "no number", "kept", false, ""}, failures::TypeMismatch, {"x", "no number", "kept", false, ""}},
-               {{"x"}, failures::InvalidCall, {"x"}}};
+  const std::tuple<std::vector<Value>, int, std::vector<Value>> cases[] = {
+      {{"x", "41", Value(), one, 7}, 0, {"x", std::int16_t{42}, "7!", true, "7"}},
+      {{"fail", one, Value(), false, "w"}, 11, {"fail", std::int16_t{2}, "w?", false, "w"}},
+      {{"x", "no number", "kept", false, ""}, failures::TypeMismatch, {"x", "no number", "kept", false, ""}},
+      {{"x"}, failures::InvalidCall, {"x"}}};
   for (auto [arguments, failure, after] : cases) {
     EXPECT_EQ(FailureOf([&, &given = arguments] { Sample().Display(given); }), failure);
     EXPECT_EQ(arguments, after);
@@ -93,24 +90,19 @@ class LateBinding : public FrameTest {
 
 TEST_F(LateBinding, PropertiesConvertWhatTheyAreSetTo) {
   const Value one = std::int16_t{1};
-  const struct {
-    const char* Class;
-    std::vector<const char*> Properties;
-    Value Given, Held;
-    int Failure = 0;
-  } cases[] = {
-      {"clsListItem", {"Key", "Item", "description"}, 1.5, "1.5"},
-      {"clsListItem", {"COLOR"}, "7", 7},
-      {"clsListItem", {"Hidden", "Dynamic"}, "True", true},
-      {"clsListItem", {"i", "S", "p"}, true, std::int16_t{-1}},
-      {"clsListItem", {"Value"}, Array({"any"}), Array({"any"})},
-      {"clsRange", {"Key"}, 1, "1"},
-      {"clsRange", {"Min", "Max"}, 2.5, 2.5},
-      {"clsRange", {"Color"}, one, 1},
-      {"clsListItems", {"iDisplayValueSelection"}, "1", one},
-      {"clsErrorMessageNova", {"ParameterName", "AllowedCharacters"}, 1, "1"},
-      {"clsErrorMessageNova", {"AreaNo"}, 1, one},
-      {"clsErrorMessageNova", {"DefaultVal", "SIARangeMin", "SIARangeMax", "DesiredVal", "AllowedString"}, 1, 1},
+  const std::tuple<const char*, std::vector<const char*>, Value, Value, int> cases[] = {
+      {"clsListItem", {"Key", "Item", "description"}, 1.5, "1.5", 0},
+      {"clsListItem", {"COLOR"}, "7", 7, 0},
+      {"clsListItem", {"Hidden", "Dynamic"}, "True", true, 0},
+      {"clsListItem", {"i", "S", "p"}, true, std::int16_t{-1}, 0},
+      {"clsListItem", {"Value"}, Array({"any"}), Array({"any"}), 0},
+      {"clsRange", {"Key"}, 1, "1", 0},
+      {"clsRange", {"Min", "Max"}, 2.5, 2.5, 0},
+      {"clsRange", {"Color"}, one, 1, 0},
+      {"clsListItems", {"iDisplayValueSelection"}, "1", one, 0},
+      {"clsErrorMessageNova", {"ParameterName", "AllowedCharacters"}, 1, "1", 0},
+      {"clsErrorMessageNova", {"AreaNo"}, 1, one, 0},
+      {"clsErrorMessageNova", {"DefaultVal", "SIARangeMin", "SIARangeMax", "DesiredVal", "AllowedString"}, 1, 1, 0},
       {"clsListItem", {"Hidden", "Color"}, "maybe", Value(), failures::TypeMismatch},
       {"clsErrorMessageNova", {"AreaNo"}, 40000, Value(), failures::Overflow},
       {"clsListItems", {"Count", "Item"}, 1, Value(), failures::InvalidCall},
@@ -126,45 +118,50 @@ TEST_F(LateBinding, PropertiesConvertWhatTheyAreSetTo) {
 }
 
 TEST_F(LateBinding, ListsAreWorkedByName) {
-  for (const std::string name : {"clsListItems", "clsRanges"}) {
-    const auto list = Make(name);
-    const bool choices = name == "clsListItems";
-    const auto added = Call(*list, "add", {"a", 1, 2});
+  for (const bool choices : {true, false}) {
+    const auto make = [&] { return Make(choices ? "clsListItems" : "clsRanges"); };
+    const auto list = make(), copy = make(), read = make(), element = Make(choices ? "clsListItem" : "clsRange");
+    const auto added = Call(*list, "add", {"a", 1, 2}), other = Call(*list, "Add", {"b"});
+    const auto* const second = choices ? "Value" : "Max";
     EXPECT_EQ(In(added).Get(choices ? "Item" : "Min"), choices ? Value("1") : Value(1));
-    EXPECT_EQ(In(added).Get(choices ? "Value" : "Max"), Value(2));
-    Call(*list, "Add", {"b"});
-    EXPECT_EQ(In(Call(*list, "Item", {2})).Get(choices ? "Value" : "Max"), choices ? Value() : Value(std::int16_t{0}));
+    EXPECT_EQ(In(added).Get(second), Value(2));
+    EXPECT_EQ(In(other).Get(second), choices ? Value() : Value(std::int16_t{0}));
     EXPECT_EQ(list->Get("Count"), Value(2));
-    EXPECT_EQ(Call(*list, "Item", {"A"}), added);
-    EXPECT_EQ(Call(*list, "Item", {3}), Value(ObjectPtr()));
-    EXPECT_EQ(Call(*list, "NewEnum"), Value(Array({added, Call(*list, "Item", {"b"})}, 1)));
 
-    const auto form = Call(*list, "Serialize");
-    const auto copy = Make(name), read = Make(name);
-    EXPECT_EQ(Call(*copy, "Copy", {list}), Call(*read, "DeSerialize", {form}));
-    for (const auto& other : {copy, read}) EXPECT_EQ(Call(*other, "Serialize"), form);
-    EXPECT_EQ(Call(*list, "Remove", {"a"}), Value());
-    EXPECT_EQ(list->Get("Count"), Value(1));
-
-    const auto element = Make(choices ? "clsListItem" : "clsRange");
-    EXPECT_EQ(Call(*element, "DeSerialize", {Call(In(added), "Serialize")}), Value(0));
-    EXPECT_EQ(element->Get("Key"), Value(""));
-    if (choices) {
-      EXPECT_EQ(Call(*element, "Copy", {added}), Value());
-      EXPECT_EQ(Call(*element, "Copy", {"no object"}), Value());
-      EXPECT_EQ(Call(*element, "Serialize"), Call(In(added), "Serialize"));
-      EXPECT_EQ(FailureOf([&] { Call(*list, "Add", {"B"}); }), failures::KeyExists);
-    } else {
-      EXPECT_EQ(Call(*list, "Add", {"B"}), Value(ObjectPtr()));
+    const auto form = Call(*list, "Serialize"), fields = Call(In(added), "Serialize");
+    const struct {
+      LateBoundObject& Of;
+      const char* Operation;
+      std::vector<Value> Arguments;
+      Value Result;
+      int Failure = 0;
+    } calls[] = {{*list, "Item", {"A"}, added},
+                 {*list, "Item", {3}, ObjectPtr()},
+                 {*list, "NewEnum", {}, Array({added, other}, 1)},
+                 {*copy, "Copy", {list}, Value()},
+                 {*copy, "Serialize", {}, form},
+                 {*read, "DeSerialize", {form}, Value()},
+                 {*read, "Serialize", {}, form},
+                 {*element, "DeSerialize", {fields}, 0},
+                 {*element, "Copy", {added}, Value(), choices ? 0 : failures::InvalidCall},
+                 {*element, "Copy", {"no object"}, Value(), choices ? 0 : failures::InvalidCall},
+                 {*list, "Add", {"B"}, ObjectPtr(), choices ? failures::KeyExists : 0},
+                 {*list, "Remove", {"a"}, Value()},
+                 {*list, "Item", {"a"}, ObjectPtr()},
+                 {*list, "Add", {}, Value(), failures::InvalidCall},
+                 {*list, "Item", {1, 2}, Value(), failures::InvalidCall},
+                 {*list, "Clear", {}, Value(), failures::InvalidCall},
+                 {*list, "Copy", {1}, Value(), failures::ObjectRequired},
+                 {*list, "Copy", {added}, Value(), failures::TypeMismatch}};
+    for (const auto& [of, operation, arguments, result, failure] : calls) {
+      Value returned = result;
+      EXPECT_EQ(
+          FailureOf([&, &object = of, &what = operation, &given = arguments] { returned = Call(object, what, given); }),
+          failure)
+          << operation;
+      EXPECT_EQ(returned, result) << operation;
     }
-    const std::tuple<const char*, std::vector<Value>, int> refused[] = {{"Add", {}, failures::InvalidCall},
-                                                                        {"Item", {1, 2}, failures::InvalidCall},
-                                                                        {"Clear", {}, failures::InvalidCall},
-                                                                        {"Copy", {1}, failures::ObjectRequired},
-                                                                        {"Copy", {added}, failures::TypeMismatch}};
-    for (const auto& [operation, arguments, failure] : refused) {
-      EXPECT_EQ(FailureOf([&, &what = operation, &given = arguments] { Call(*list, what, given); }), failure);
-    }
+    EXPECT_EQ(element->Get("Key"), Value(choices ? "a" : ""));
   }
   std::vector<Value> review{Array(), Array(), std::make_shared<SecurityLevels>(), 49, false};
   EXPECT_EQ(Make("clsErrorMessageNova")->Invoke("Display", review), Value(0));
@@ -175,19 +172,18 @@ TEST_F(FrameTest, PublicClassesAreFoundByNameAndCreatedOnceRegistered) {
   EXPECT_NE(FindPublicClass(name), nullptr);
   EXPECT_EQ(FindPublicClass(name), FindPublicClass("clsZoneFunctionsWillow"));
   EXPECT_EQ(FindPublicClass("clsUnknown"), nullptr);
-  EXPECT_EQ(FailureOf([&] { return CreateObject(name); }), failures::CannotCreateObject);
+  const auto create = [&] { return std::dynamic_pointer_cast<LateBoundObject>(CreateObject(name)); };
+  EXPECT_EQ(FailureOf(create), failures::CannotCreateObject);
   DllRegisterServer();
-  {
-    const auto object = std::dynamic_pointer_cast<LateBoundObject>(CreateObject(name));
-    ASSERT_NE(object, nullptr);
-    EXPECT_EQ(DllCanUnloadNow(), 1);
-    std::vector<Value> arguments{std::int16_t{5}, "4000"};
-    EXPECT_EQ(object->Invoke("Display", arguments), Value(1));
-    EXPECT_EQ(FailureOf([&] { object->Invoke("Hide", arguments); }), failures::InvalidCall);
-  }
+  auto object = create();
+  EXPECT_EQ(DllCanUnloadNow(), 1);
+  std::vector<Value> arguments{std::int16_t{5}, "4000"};
+  EXPECT_EQ(object->Invoke("Display", arguments), Value(1));
+  EXPECT_EQ(FailureOf([&] { object->Invoke("Hide", arguments); }), failures::InvalidCall);
+  object.reset();
   EXPECT_EQ(DllCanUnloadNow(), 0);
   DllUnregisterServer();
-  EXPECT_EQ(FailureOf([&] { return CreateObject(name); }), failures::CannotCreateObject);
+  EXPECT_EQ(FailureOf(create), failures::CannotCreateObject);
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "frame/services/services.h"
 
-#include <tuple>
-
 #include "OrlinCustomDialogs/version.h"
 
 #include "cipher/ccrypt.h"
@@ -128,35 +126,29 @@ TEST_F(ServicesTest, OpensADatabaseByTheTypeOfItsEntry) {
   const Log fixed{"14 characters of password"}, none{"user me", "0 characters of password"},
       decrypted{"user me", "3 characters of password"};
   const char* const junk = "no database at all";
-  const struct {
-    std::string Type;
-    const char* Content;  // null: there is no file
-    bool Trial;
-    std::int32_t Result;
-    Log Told;
-    std::string Reported = {}, Password = {}, Connect = {};
-  } cases[] = {{"Access", "", false, 0, fixed},
-               {"access", "", true, 0, fixed},
-               {"ACCESS", junk, false, 3049, fixed},
-               {"ACCESS", junk, true, 3049, {}, GetLocalText(1082, "DB_PATH", "C:\\notes.db")},
-               {"ACCESS", nullptr, false, 3049, fixed, GetLocalText(1084, "DB_PATH", "C:\\notes.db")},
-               {"odbc", "", true, 0, none, "", "", connect},
-               {"ODBC", nullptr, true, 3049, decrypted, "", CCrypt::EncryptString("abc"), "Driver=none"},
-               {"", "", true, 3049, {}, GetLocalText(1082, "DB_PATH", "")}};
-  for (const auto& one : cases) {
-    SCOPED_TRACE(one.Type);
+  using Case = std::tuple<std::string, const char*, bool, std::int32_t, Log, std::string, std::string, std::string>;
+  const Case cases[] = {{"Access", "", false, 0, fixed, "", "", ""},
+                        {"access", "", true, 0, fixed, "", "", ""},
+                        {"ACCESS", junk, false, 3049, fixed, "", "", ""},
+                        {"ACCESS", junk, true, 3049, {}, GetLocalText(1082, "DB_PATH", "C:\\notes.db"), "", ""},
+                        {"ACCESS", nullptr, false, 3049, fixed, GetLocalText(1084, "DB_PATH", "C:\\notes.db"), "", ""},
+                        {"odbc", "", true, 0, none, "", "", connect},
+                        {"ODBC", nullptr, true, 3049, decrypted, "", CCrypt::EncryptString("abc"), "Driver=none"},
+                        {"", "", true, 3049, {}, GetLocalText(1082, "DB_PATH", ""), "", ""}};
+  for (const auto& [type, content, trial, result, told, reported, password, connection] : cases) {
+    SCOPED_TRACE(type);
     std::filesystem::remove(file);
-    if (one.Content != nullptr) std::ofstream(file) << one.Content;
-    UseSettings("\"WarningLevel\"=\"0\"\n\"UserName\"=\"me\"\n\"Password\"=\"" + one.Password + "\"\n");
-    UseEntry({"Notes", one.Type, "C", "\\", "notes.db", one.Connect});
+    if (content != nullptr) std::ofstream(file) << content;
+    UseSettings("\"WarningLevel\"=\"0\"\n\"UserName\"=\"me\"\n\"Password\"=\"" + password + "\"\n");
+    UseEntry({"Notes", type, "C", "\\", "notes.db", connection});
     ASSERT_EQ(InitApplicationVariables(), 0);
     Told.clear(), Logged.clear();
     DatabasePtr db;
-    EXPECT_EQ(OpenSecureDB("Notes", db, one.Trial), one.Result);
-    EXPECT_EQ(db != nullptr, one.Result == 0);
-    EXPECT_EQ(Told, one.Told);
-    ASSERT_EQ(Logged.size(), one.Result == 0 ? 0U : 1U);
-    for (const auto& fault : Logged) EXPECT_EQ(fault.Procedure + fault.AdditionalText, "OpenSecureDB()" + one.Reported);
+    EXPECT_EQ(OpenSecureDB("Notes", db, trial), result);
+    EXPECT_EQ(db != nullptr, result == 0);
+    EXPECT_EQ(Told, told);
+    ASSERT_EQ(Logged.size(), result == 0 ? 0U : 1U);
+    for (const auto& fault : Logged) EXPECT_EQ(fault.Procedure + fault.AdditionalText, "OpenSecureDB()" + reported);
   }
   DatabasePtr db;
   EXPECT_EQ(OpenSecureDB("Others", db, false), failures::InvalidCall);

@@ -1,8 +1,5 @@
 #include "OrlinCustomDialogs/hosts/script/script_host.h"
 
-#include <sstream>
-#include <tuple>
-
 #include <gtest/gtest-spi.h>
 
 #include "app/usage/usage_error.h"
@@ -55,39 +52,37 @@ std::string Refused(const std::string& action, const std::string& why, int line 
 }
 
 TEST_F(ScriptHostTest, DumpsEveryKindOfControl) {
-  const auto common = [](const std::string& kind) {
-    return R"({"kind":")" + kind + R"(","visible":true,"enabled":true,"left":0,"top":0,"width":0,)";
-  };
-  const std::string lists = R"("listIndex":-1,"list":["one","two"],"itemData":[0,0])";
-  const std::string atStart = R"("selStart":0,"selLength":0)";
-  const std::pair<const char*, std::string> expected[] = {
-      {"lblName", common("Label") + R"("caption":"&Name:"})"},
-      {"txtName", R"({"kind":"TextBox","visible":true,"enabled":true,"left":10,"top":20,"width":30,)"
-                  R"("text":"ab","locked":false,"maxLength":5,)" +
-                      atStart + "}"},
-      {"txtLocked", common("TextBox") + R"("text":"","locked":true,"maxLength":0,)" + atStart + "}"},
-      {"fraMode", common("Frame") + R"("caption":"Mode"})"},
-      {"optA", common("OptionButton") + R"("caption":"&A","value":true})"},
-      {"chkOn", common("CheckBox") + R"("caption":"&On","value":0})"},
-      {"cmbPick", common("ComboBox") + R"("text":"","locked":false,"maxLength":0,)" + atStart +
-                      R"(,"listIndex":-1,"list":["one","two"],"itemData":[7,7]})"},
-      {"lstOne", common("ListBox") + lists + "}"},
-      {"lstMany", common("ListBox") + lists + R"(,"selected":[false,false]})"},
-      {"udHour", common("UpDown") + R"("value":1,"min":1,"max":23})"},
-      {"staLine", common("StatusBar") + R"("text":""})"},
-      {"tmrClock", common("Timer") + R"("interval":1})"},
-      {"grdTable", common("Grid") + R"("rows":3,"cols":2,"row":1,"col":0,)"
-                                    R"("cells":[["Title",""],["","old"],["",""]],)"
-                                    R"("colours":[[0,0],[0,255],[0,0]],)"
-                                    R"("bold":[[false,false],[false,false],[true,false]],"editing":false})"},
-      {"cmdHidden", R"({"kind":"Button","visible":false,"enabled":true,"left":0,"top":0,"width":0,)"
-                    R"("caption":"Hidden"})"}};
+  const std::string text = R"(,"text":"","locked":false,"maxLength":0,"selStart":0,"selLength":0)";
+  const std::string list = R"(,"listIndex":-1,"list":["one","two"],"itemData":)";
+  const std::tuple<const char*, const char*, std::string> expected[] = {
+      {"lblName", "Label", R"(,"caption":"&Name:")"},
+      {"txtLines", "TextBox", text},
+      {"fraMode", "Frame", R"(,"caption":"Mode")"},
+      {"optA", "OptionButton", R"(,"caption":"&A","value":true)"},
+      {"chkOn", "CheckBox", R"(,"caption":"&On","value":0)"},
+      {"cmbPick", "ComboBox", text + list + "[7,7]"},
+      {"lstOne", "ListBox", list + "[0,0]"},
+      {"lstMany", "ListBox", list + R"([0,0],"selected":[false,false])"},
+      {"udHour", "UpDown", R"(,"value":1,"min":1,"max":23)"},
+      {"staLine", "StatusBar", R"(,"text":"")"},
+      {"tmrClock", "Timer", R"(,"interval":1)"},
+      {"cmdOK", "Button", R"(,"caption":"OK")"},
+      {"grdTable", "Grid",
+       R"(,"rows":3,"cols":2,"row":1,"col":0,"cells":[["Title",""],["","old"],["",""]],)"
+       R"("colours":[[0,0],[0,255],[0,0]],"bold":[[false,false],[false,false],[true,false]],"editing":false)"}};
   const auto trace = Trace("dump");
   EXPECT_TRUE(trace.starts_with(
       kShow + R"({"event":"state","caption":"Every &kind","focus":"txtName","controls":{"lblName":{)"));
-  for (const auto& [name, state] : expected) {
-    EXPECT_EQ(Json::parse(trace.substr(kShow.size())).at("controls").at(name).dump(), state);
+  const auto controls = Json::parse(trace.substr(kShow.size())).at("controls");
+  for (const auto& [name, kind, state] : expected) {
+    EXPECT_EQ(controls.at(name).dump(), R"({"kind":")" + std::string(kind) +
+                                            R"(","visible":true,"enabled":true,"left":0,"top":0,"width":0)" + state +
+                                            "}");
   }
+  EXPECT_EQ(controls.at("cmdHidden").at("visible"), false);
+  EXPECT_EQ(controls.at("txtLocked").at("locked"), true);
+  EXPECT_TRUE(controls.at("txtName").dump().ends_with(R"("left":10,"top":20,"width":30,"text":"ab","locked":false,)"
+                                                      R"("maxLength":5,"selStart":0,"selLength":0})"));
 }
 
 TEST_F(ScriptHostTest, PlaysEachAction) {

@@ -1,7 +1,6 @@
 #include "OrlinCustomDialogs/hosts/script/script.h"
 
 #include <functional>
-#include <vector>
 
 #include "support/temporary_folder.h"
 

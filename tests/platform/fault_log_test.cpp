@@ -1,7 +1,5 @@
 #include "faultlog/fault_log.h"
 
-#include <tuple>
-
 #include "support/frame_fixture.h"
 #include "support/temporary_folder.h"
 

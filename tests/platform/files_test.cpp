@@ -1,8 +1,6 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
-#include <tuple>
-#include <vector>
 
 #include "OrlinCustomDialogs/failure.h"
 #include "OrlinCustomDialogs/platform/standard_platform.h"

@@ -6,7 +6,6 @@
 #include <QLineEdit>
 #include <QSettings>
 #include <QTableWidget>
-#include <functional>
 #include <map>
 
 #include "app/account/account.h"

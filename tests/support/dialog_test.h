@@ -3,10 +3,13 @@
 #include <cstdint>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <optional>
 #include <ostream>
+#include <sstream>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -33,6 +36,17 @@ inline Value Integer(int number) { return static_cast<std::int16_t>(number); }
 
 /// The words of a line, which has a blank between them.
 std::vector<std::string> SplitAtBlanks(const std::string& line);
+
+/// How orlin-host ended, and what it printed.
+struct Ended {
+  int Status = -1;
+  std::string Out;
+  std::string Err;
+};
+
+/// Runs orlin-host in this process, where no window can be opened: the words of its command line, with a blank between
+/// them, and what stands on its standard input.
+Ended RunHost(const std::string& line, const std::string& input = {});
 
 /// The English text with that number, with a variable of it filled in.
 std::string Text(int number, const std::string& variable = {}, const std::string& value = {});

@@ -8,6 +8,7 @@
 #include "app/calls/arguments.h"
 #include "app/calls/edit.h"
 #include "app/calls/value_text.h"
+#include "app/command_line/command.h"
 #include "app/usage/usage_error.h"
 #include "catalogue/text_catalogue.h"
 #include "support/dialog_test.h"
@@ -127,6 +128,17 @@ std::vector<std::string> SplitAtBlanks(const std::string& line) {
   std::istringstream stream(line);
   for (std::string word; std::getline(stream, word, ' ');) words.push_back(word);
   return words;
+}
+
+Ended RunHost(const std::string& line, const std::string& input) {
+  const auto words = SplitAtBlanks("orlin-host " + line);
+  std::vector<const char*> pointers;
+  for (const auto& word : words) pointers.push_back(word.c_str());
+  std::istringstream in(input);
+  std::ostringstream out, err;
+  const auto windows = [](Screen) -> WindowSystem& { throw UsageError("windows are wanted"); };
+  const int status = RunCommand(static_cast<int>(words.size()), pointers.data(), in, out, err, windows);
+  return {status, out.str(), err.str()};
 }
 
 DialogRun Play(std::string_view publicClass, const std::vector<std::string>& arguments, std::string_view script,

@@ -1,5 +1,3 @@
-#include <tuple>
-
 #include "OrlinCustomDialogs/failure.h"
 
 #include "cipher/ccrypt.h"

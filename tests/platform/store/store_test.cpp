@@ -1,17 +1,11 @@
 #include <atomic>
-#include <chrono>
-#include <csignal>
 #include <functional>
 #include <iostream>
-#include <memory>
 #include <random>
 #include <regex>
-#include <thread>
 
 #include <sys/mman.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "OrlinCustomDialogs/failure.h"
 
