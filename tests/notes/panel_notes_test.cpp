@@ -2,31 +2,30 @@
 
 #include "OrlinCustomDialogs/failure.h"
 
-#include "support/dialog_test.h"
+#include "support/dialog_call.h"
 #include "support/temporary_folder.h"
 
 namespace orlin::testing {
 namespace {
 
 constexpr const char* kOk = "click cmdOK";
-using Words = std::vector<std::string>;
-const Words kKey{"PanelGUID=P1", "NoteHeader=Service", "NoteTypeID=3"};
+const Strings kKey{"PanelGUID=P1", "NoteHeader=Service", "NoteTypeID=3"};
 
 /// Notes on a store of their own, which starts without a file.
 class PanelNotes : public ::testing::Test {
  protected:
-  DialogRun Open(const std::string& script, const Words& more = {}, const Words& key = kKey) {
+  DialogRun Open(const std::string& script, const Strings& more = {}, const Strings& key = kKey) {
     auto arguments = key;
     arguments.insert(arguments.end(), more.begin(), more.end());
     return Play("clsPanelNotes", arguments, script, Options);
   }
 
   /// Stores a text as the host does that holds it in memory.
-  void Store(const std::string& text, const Words& key = kKey) {
+  void Store(const std::string& text, const Strings& key = kKey) {
     EXPECT_EQ(Open(kOk, {"IsInMemory=true", "Content=\"" + text + "\""}, key).Result, 0);
   }
 
-  Value Stored(const Words& key = kKey) { return Open("close", {}, key).Argument("Content"); }
+  Value Stored(const Strings& key = kKey) { return Open("close", {}, key).Argument("Content"); }
 
   const TemporaryFolder Drives;
   PlayOptions Options{.Drives = Drives.Path()};
@@ -58,7 +57,7 @@ TEST_F(PanelNotes, CancelKeepsTheTextForTheHostAndTheStoreAsItWas) {
 }
 
 TEST_F(PanelNotes, EmptiedTextDeletesItsRow) {
-  const Words other{"PanelGUID=P2", "NoteHeader=Service", "NoteTypeID=3"};
+  const Strings other{"PanelGUID=P2", "NoteHeader=Service", "NoteTypeID=3"};
   Store("x");
   Store("other", other);
   for (const bool hasRow : {true, false}) {
@@ -86,7 +85,7 @@ TEST_F(PanelNotes, ANoteGoesOnALineOfItsOwnAndTheFirstLineEndsAtTheFirstLineEnd)
 TEST_F(PanelNotes, TheLengthIsCountedInCharacters) {
   std::string content;
   for (int i = 0; i < 15500 - 3; ++i) content += "ü";
-  const Words inMemory{"IsInMemory=true", "Content=" + content};
+  const Strings inMemory{"IsInMemory=true", "Content=" + content};
   const auto fits = Open("type txtNote \"abc\"\nclick cmdAddNote\nclose", inMemory);
   EXPECT_EQ(fits.Argument("Content"), content + "\r\nabc") << "the line end is not counted beforehand";
 
@@ -109,7 +108,7 @@ TEST_F(PanelNotes, DateAndTimeGoInFrontOfTheNote) {
 }
 
 TEST_F(PanelNotes, OtherKindsAreReadAndNeverWritten) {
-  const Words other{"PanelGUID=P1", "NoteHeader=Service", "NoteTypeID=2"};
+  const Strings other{"PanelGUID=P1", "NoteHeader=Service", "NoteTypeID=2"};
   EXPECT_EQ(Open(kOk, {"IsInMemory=true", "Content=new"}, other).Argument("FirstLine"), "new");
   EXPECT_EQ(Open(kOk, {"IsInMemory=true"}).Result, 0) << "nor an empty text";
   EXPECT_TRUE(std::filesystem::is_empty(Drives.Path()));
@@ -120,9 +119,9 @@ TEST_F(PanelNotes, OtherKindsAreReadAndNeverWritten) {
 }
 
 TEST_F(PanelNotes, AnyKeyNamesItsOwnRowOnly) {
-  const Words headers{"x", R"(x' OR '1'='1)", "x'", R"([x] \"%_ \\ --)", "日本", ""};  // as arguments write them
+  const Strings headers{"x", R"(x' OR '1'='1)", "x'", R"([x] \"%_ \\ --)", "日本", ""};  // as arguments write them
   const auto key = [](const std::string& header) {
-    return Words{"PanelGUID=\"" + header + "\"", "NoteHeader=\"" + header + "\"", "NoteTypeID=3"};
+    return Strings{"PanelGUID=\"" + header + "\"", "NoteHeader=\"" + header + "\"", "NoteTypeID=3"};
   };
   for (const auto& header : headers) Store("of " + header, key(header));
   for (const auto& header : headers) {

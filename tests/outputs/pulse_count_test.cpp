@@ -1,46 +1,23 @@
-#include "outputs_test.h"
+#include "support/dialog_call.h"
 
 namespace orlin::testing {
 namespace {
 
-Json Counts() {
-  Json counts{Text(1468, "INTERVAL", "4"), Text(1468, "INTERVAL", "16")};
-  for (int count = 2; count <= 15; ++count) counts.push_back(Text(1470, "COUNT", std::to_string(count)));
-  return counts;
-}
-
-/// The times for a position in the list of counts.
-Json Times(int position) {
-  if (position == 0) return {Text(1472, "INTERVAL", "4")};
-  if (position == 1) return {Text(1472, "INTERVAL", "16")};
-  if (position < 0) return {Text(1489)};
-  Json times = Json::array();
-  for (std::int16_t number = 1473; number <= 1488; ++number) {
-    times.push_back(Text(number, "INTERVAL", number <= 1480 ? "4" : "16"));
-  }
-  return times;
-}
-
 TEST(PulseCount, FirstTwoCountsAreStoredTheOtherWayRoundAndTimesFollow) {
-  const struct {
-    std::string Count, Time, Picks;
-    int Position, TimeRow, After;
-  } cases[] = {{"0", "7", "", 1, 0, 0},      {"1", "-1", "", 0, 0, 1},        {"2", "9", "", 2, 9, 2},
-               {"15", "15", "", 15, 15, 15}, {"\"2\"", "\"0\"", "", 2, 0, 2}, {"2", "16", "", 2, -1, 2},
-               {"16", "0", "", -1, 0, -1},   {"16", "3", "", -1, -1, -1},     {"-1", "0", "", -1, 0, -1},
-               {"5", "12", "9", 9, 12, 9},   {"5", "12", "1", 1, 0, 0},       {"5", "12", "05", 5, 0, 5},
-               {"16", "3", "2", 2, -1, 2}};
-  for (const auto* model : {"Pine", "Spruce"}) {
-    for (const auto& [count, time, picks, position, timeRow, after] : cases) {
-      std::string script;
-      for (const char row : picks) script += std::string("select cbPulseCount ") + row + "\n";
-      const auto run = Open(Pulses(count, time, model), script + "dump\nclick cmdOK");
-      EXPECT_EQ(run.Events("state")[0]["caption"], Text(1192, "ITEM", "Zone 3"));
-      EXPECT_EQ(Seen(run, "cbPulseCount", {"list", "listIndex"}), (Json{Counts(), position}));
-      EXPECT_EQ(Seen(run, "cbPulseCountTime", {"list", "listIndex"}), (Json{Times(position), timeRow}));
-      EXPECT_EQ(Back(run, {"vPulseCount", "vPulseCountTime", "vInterval1", "vInterval2"}),
-                (Values{Integer(after), Integer(timeRow), "4", Integer(16)}));
-    }
+  const std::string first = " [1472 4] ", second = " [1472 16] ", none = " [1489] ",
+                    all = " [1473 4..1480 4, 1481 16..1488 16] ";
+  for (const std::string model : {"Pine", "Spruce"}) {
+    const std::string call = "clsPulseCount_" + model + " vName=Zone3 vInterval1='4' vInterval2=16 vPulseCount={0} ";
+    ExpectEach({call + "vPulseCountTime={1}", "{2};dump;click cmdOK",
+                "cbPulseCount.listIndex cbPulseCountTime cbPulseCountTime.listIndex vPulseCount vPulseCountTime"},
+               {"0|7||1" + second + "0 0 0", "1|-1||0" + first + "0 1 0", "2|9||2" + all + "9 2 9",
+                "15|15||15" + all + "15 15 15", "'2'|'0'||2" + all + "0 2 0", "2|16||2" + all + "-1 2 -1",
+                "16|0||-1" + none + "0 -1 0", "16|3||-1" + none + "-1 -1 -1", "-1|0||-1" + none + "0 -1 0",
+                "5|12|select cbPulseCount 9|9" + all + "12 9 12", "5|12|select cbPulseCount 1|1" + second + "0 0 0",
+                "5|12|select cbPulseCount 0;select cbPulseCount 5|5" + all + "0 5 0",
+                "16|3|select cbPulseCount 2|2" + all + "-1 2 -1"});
+    ExpectEach({call + "vPulseCountTime=0", "dump;click cmdOK", "title cbPulseCount vInterval1 vInterval2"},
+               {"0|1192 Zone3 [1468 4, 1468 16, 1470 2..15] '4' 16"});
   }
 }
 

@@ -1,79 +1,54 @@
-#include "outputs_test.h"
+#include "support/dialog_call.h"
 
 namespace orlin::testing {
 namespace {
 
-const std::string kGrand = "Grand", kMid = "Mid", kBase = "Base";
-
-Json Items(int count, std::int16_t text, const std::string& variable, const std::string& names = "") {
-  Json items = Json::array();
-  for (int i = 0; i < count; ++i) {
-    items.push_back(
-        Text(text, variable, names.empty() ? std::to_string(i + 1) : names.substr(static_cast<std::size_t>(i), 1)));
-  }
-  return items;
-}
+const std::string kRelay = "clsRelayParam_Oak{0} RelayNo=4 FunctionNo=2 FunctionCode={1} ParameterCode={2}";
 
 TEST(RelayParamsOak, FunctionsAndCheckItemsFollowTheModel) {
-  for (const auto& [model, last, points] : {std::tuple{kGrand, 1516, 24}, {kMid, 1511, 8}, {kBase, 1515, 6}}) {
-    auto names = Texts(Then({}, 1494, 1511));
-    names.push_back(Text(1216));
-    for (int text = 1512; text <= last; ++text) names.push_back(Text(text));
-    if (model != kMid) names.push_back(Text(1317));
-    for (const int code : {0, 1, 5, 6, 8, 9, 10, 18}) {
-      const auto items = code >= 1 && code <= 5   ? Items(points, 400, "POINT")
-                         : code >= 6 && code <= 8 ? Items(3, 1517, "KEY", "ABC")
-                         : code == 9              ? Items(8, 1518, "USER")
-                                                  : Json::array();
-      const auto run = Open(Relay(model, "\"" + std::to_string(code) + "\"", "[0*24]"), "dump\nclick cmdOK");
-      EXPECT_EQ(Seen(run, "cmbFunction", {"list", "listIndex"}), (Json{names, code})) << model;
-      EXPECT_EQ(Seen(run, "lstMSParam", {"list", "enabled"}), (Json{items, !items.empty()})) << model << code;
-      EXPECT_EQ(run.Argument("FunctionCode"), Integer(code));
+  for (const std::string line : {"Grand|24|1494..1511 1216 1512..1516 1317", "Mid|8|1494..1511 1216",
+                                 "Base|6|1494..1511 1216 1512..1515 1317"}) {
+    const auto cells = Split(line, "|");
+    Strings rows;
+    for (const auto& [codes, items] : {std::pair{"1 5", "[400 1.." + cells[1] + "] true"},
+                                       {"6 8", "[1517 A..C] true"},
+                                       {"9", "[1518 1..8] true"},
+                                       {"0 10 18", "[] false"}}) {
+      for (const auto& code : Split(codes, " ")) {
+        rows.push_back(cells[0] + "|'" + code + "'|[0*24]|1493 4 2 [" + cells[2] + "] " + code + " " + items + " " +
+                       code);
+      }
     }
+    ExpectEach({kRelay, "dump;click cmdOK",
+                "title cmbFunction cmbFunction.listIndex lstMSParam lstMSParam.enabled FunctionCode"},
+               rows);
   }
-  auto caption = Text(1493, "RELAY", "4");
-  caption.replace(caption.find("%FUNCTION%"), 10, "2");
-  EXPECT_EQ(Open(Relay(kMid, "0", "[]"), "dump").Events("state")[0]["caption"], caption);
 }
 
 TEST(RelayParamsOak, OakBaseLacksTheCode23) {
-  for (const auto& [model, code, after] :
-       {std::tuple{kBase, "22", 22}, {kBase, "23", 24}, {kBase, "24", 24}, {kGrand, "23", 23}}) {
-    const auto run = Open(Relay(model, code, "[0*24]"), "dump\nclick cmdOK");
-    EXPECT_EQ(run.Control("cmbFunction")["text"] == Text(1317), after == 24) << model << code;
-    EXPECT_EQ(run.Argument("FunctionCode"), Integer(after)) << model << code;
-  }
+  ExpectEach({kRelay, "dump;click cmdOK", "cmbFunction.text FunctionCode"},
+             {"Base|22|[0*24]|1515 22", "Base|23|[0*24]|1317 24", "Base|24|[0*24]|1317 24", "Grand|23|[0*24]|1516 23"});
 }
 
 TEST(RelayParamsOak, OkStoresTheBitsOfTheItemsAndClearsTheRest) {
-  const std::string ones(24, '1'), zeros(24, '0');
   // A change of code keeps the bits by position, also those that are out of sight for a while.
-  const struct {
-    std::string Model, Code, Given, Script, Stored;
-  } cases[] = {
-      {kGrand, "6", "[1,0,1,0,1,1*19]", "", "101" + zeros.substr(3)},
-      {kGrand, "1", "[1,0,\"1\",0,1*20]", "", "1010" + ones.substr(4)},
-      {kGrand, "0", "[1*24]", "", zeros},
-      {kGrand, "1", "[1,0*22,2]", "select lstMSParam 0 off\nselect lstMSParam 22 on", zeros.substr(2) + "10"},
-      {kGrand, "1", "[1*24]", "select cmbFunction 6\nselect lstMSParam 1 off\nselect cmbFunction 1",
-       "10" + ones.substr(2)},
-      {kBase, "1", "[1*8]", "", "11111100"},
-      {kBase, "9", "[1*10]", "", "1111111100"},
-  };
-  for (const auto& expected : cases) {
-    const auto run = Open(Relay(expected.Model, expected.Code, expected.Given), expected.Script + "\nclick cmdOK");
-    Values bits;
-    for (const char bit : expected.Stored) bits.push_back(Integer(bit - '0'));
-    EXPECT_EQ(run.Argument("ParameterCode"), Array(bits)) << expected.Given << "\n" << expected.Script;
-  }
-  EXPECT_EQ(Open(Relay(kGrand, "1", "[1*23]"), "click cmdOK").Result, 9) << "too short";
+  ExpectEach(
+      {kRelay, "{3};click cmdOK", "result ParameterCode"},
+      {"Grand|6|[1,0,1,0,1,1*19]||0 [1,0,1,0*21]", "Grand|1|[1,0,'1',0,1*20]||0 [1,0,1,0,1*20]",
+       "Grand|0|[1*24]||0 [0*24]", "Grand|1|[1,0*22,2]|select lstMSParam 0 off;select lstMSParam 22 on|0 [0*22,1,0]",
+       "Grand|1|[1*24]|select cmbFunction 6;select lstMSParam 1 off;select cmbFunction 1|0 [1,0,1*22]",
+       "Base|1|[1*8]||0 [1*6,0,0]", "Base|9|[1*10]||0 [1*8,0,0]"});
+  ExpectEach({kRelay, "click cmdOK", "result"}, {"Grand|1|[1*23]|9"});  // too short
 }
 
 TEST(RelayParamsOak, RightsHoldOnEveryCode) {
-  const std::string script = "select cmbFunction 0\nselect cmbFunction 6\ndump";
-  const auto run = Open(Relay(kMid, "1", "[1*8]"), script, {"AuthorityLevel=1,1", "----Parameter 2=1,2"});
-  EXPECT_EQ(Seen(run, "lstMSParam", {"list", "enabled"}), (Json{Items(3, 1517, "KEY", "ABC"), false}));
-  EXPECT_EQ(Seen(Open(Relay(kMid, "1", "[1*8]"), script), "lstMSParam", {"enabled"}), Json::array({true}));
+  for (const std::string level : {"=1,2", "=1,1"}) {
+    ExpectEach({kRelay,
+                "select cmbFunction 0;select cmbFunction 6;dump",
+                "lstMSParam lstMSParam.enabled",
+                {"AuthorityLevel=1,1", "----Parameter 2" + level}},
+               {"Mid|1|[1*8]|[1517 A..C] " + std::string(level == "=1,1" ? "true" : "false")});
+  }
 }
 
 }  // namespace

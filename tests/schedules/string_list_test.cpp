@@ -1,57 +1,24 @@
-#include <string>
-
-#include "support/dialog_test.h"
+#include "support/dialog_call.h"
 
 namespace orlin::testing {
 namespace {
 
-DialogRun Open(int index, const std::string& script) {
-  return Play("clsLstTime_Rowan", {"Index=" + std::to_string(index), "res=77"}, script);
-}
-
 TEST(StringList, GivesThePositionAsText) {
-  const struct {
-    int Index;
-    const char* Script;
-    const char* Line;  // that is shown at the end
-    const char* Position;
-  } cases[] = {{0, "click cmdOK", "DISABLED", "0"},
-               {48, "click cmdOK", "MIDNIGHT", "48"},
-               {47, "select List1 20\ndump\nclick cmdOK", "10:00", "20"},
-               {3, "select List1 7\nselect List1 0\ndump\nclick cmdOK", "DISABLED", "0"},
-               {3, "type txtValue \"x\"\ndump\nclick cmdOK", "x01:30", "3"},
-               {3, "select List1 7\ndump\nclick cmdCancel", "03:30", "3"},
-               {3, "select List1 7\ndump\nclose", "03:30", "3"}};
-  for (const auto& one : cases) {
-    const std::string script = one.Script;
-    const auto run = Open(one.Index, "dump\n" + script);
-    EXPECT_EQ(run.Control("txtValue").at("text"), one.Line) << script;
-    EXPECT_EQ(run.Result, script.ends_with("cmdOK") ? 0 : 1) << script;
-    EXPECT_EQ(run.Argument("res"), one.Position) << script;
-    EXPECT_EQ(run.Argument("Index"), Integer(one.Index));
-  }
-}
-
-TEST(StringList, ShowsNothingForAPositionThatItLacks) {
-  for (const int index : {-1, 49}) {
-    const auto run = Open(index, "click cmdOK");
-    EXPECT_EQ(run.Result, 2);
-    EXPECT_EQ(run.Argument("res"), Integer(77));
-    EXPECT_TRUE(run.Events("show").empty());
-  }
+  ExpectEach(
+      {"clsLstTime_Rowan Index={0} res=77", "{1};dump;{2}", "txtValue result res Index"},
+      {"0||click cmdOK|DISABLED 0 '0' 0", "48||click cmdOK|MIDNIGHT 0 '48' 48",
+       "47|select List1 20|click cmdOK|10:00 0 '20' 47", "3|select List1 7;select List1 0|click cmdOK|DISABLED 0 '0' 3",
+       "3|type txtValue 'x'|click cmdOK|x01:30 0 '3' 3", "3|select List1 7|click cmdCancel|03:30 1 '3' 3"});
+  ExpectEach({"clsLstTime_Rowan Index=49 res=77", "", "result res"}, {"2 77"});
 }
 
 TEST(StringList, HasEveryHalfHour) {
-  const auto run = Open(5, "dump");
-  Json expected = {"DISABLED"};
+  std::string times = "DISABLED";
   for (int i = 1; i < 48; ++i) {
-    expected.push_back((i < 20 ? "0" : "") + std::to_string(i / 2) + (i % 2 == 1 ? ":30" : ":00"));
+    times += (i < 20 ? " 0" : " ") + std::to_string(i / 2) + (i % 2 == 1 ? ":30" : ":00");
   }
-  expected.push_back("MIDNIGHT");
-  EXPECT_EQ(run.Control("List1").at("list"), expected);
-  EXPECT_EQ(run.Control("List1").at("listIndex"), 5);
-  EXPECT_EQ(run.Events("state")[0].at("caption"), Text(124));
-  EXPECT_EQ(run.Control("Label1").at("caption"), Text(1174));
+  ExpectEach({"clsLstTime_Rowan Index=5", "dump", "title Label1 List1 List1.listIndex"},
+             {"124 1174 [" + times + " MIDNIGHT] 5"});
 }
 
 }  // namespace

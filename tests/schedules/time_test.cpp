@@ -1,93 +1,44 @@
-#include <string>
-#include <tuple>
-
 #include "OrlinCustomDialogs/schedules.h"
 
 #include "frame/services/modGeneral.h"
 #include "support/broken_catalogue.h"
-#include "support/dialog_test.h"
+#include "support/dialog_call.h"
 
 namespace orlin::testing {
 namespace {
 
-DialogRun Open(int minutes, const std::string& script) {
-  return Play("clsTime_FirePanels", {"Index=" + std::to_string(minutes), "res=\"kept\""}, script);
-}
+const std::string kTime = "clsTime_FirePanels Index={0} res='kept'";
 
 TEST(Time, GivesBackTheMinutesSinceMidnight) {
-  const std::tuple<int, const char*, const char*> cases[] = {
-      {0, "00", "00"}, {1439, "23", "59"}, {754, "12", "34"}, {59, "00", "59"}, {60, "01", "00"}};
-  for (const auto& [index, hour, minute] : cases) {
-    const auto run = Open(index, "dump\nclick cmdOK");
-    EXPECT_EQ(run.Control("txtHour").at("text"), hour);
-    EXPECT_EQ(run.Control("txtMinute").at("text"), minute);
-    EXPECT_EQ(run.Result, 0);
-    EXPECT_EQ(run.Argument("res"), Integer(index));
-    EXPECT_EQ(run.Argument("Index"), Integer(index));
-  }
-}
-
-TEST(Time, IsNotChangedWithoutOK) {
-  for (const char* end : {"click cmdCancel", "close"}) {
-    const auto run = Open(754, std::string("type txtHour \"7\"\n") + end);
-    EXPECT_EQ(run.Result, 2);
-    EXPECT_EQ(run.Argument("res"), "kept");
-  }
+  ExpectEach(
+      {kTime, "dump;click cmdOK", "txtHour txtMinute result res Index"},
+      {"0|00 00 0 0 0", "1439|23 59 0 1439 1439", "754|12 34 0 754 754", "59|00 59 0 59 59", "60|01 00 0 60 60"});
 }
 
 TEST(Time, TakesTheKeysOfAnyTime) {
-  const struct {
-    const char* What;
-    const char* Script;
-    const char* Hour;
-    const char* Minute;
-    int Time;  // after OK
-    std::size_t Beeps = 0;
-  } cases[] = {
-      {"the first digit replaces all", "type txtHour \"23\"", "23", "34", 1414},
-      {"above the limit", "type txtHour \"24\"", "2", "34", 154, 1},
-      {"before a digit", "type txtHour \"3\"\nkey txtHour Home\ntype txtHour \"1\"", "13", "34", 814},
-      {"33 is above it", "type txtHour \"3\"\nkey txtHour Home\ntype txtHour \"3\"", "3", "34", 214, 1},
-      {"between digits counts as behind them", "caret txtHour 1 0\ntype txtHour \"0\"", "12", "34", 754, 1},
-      {"behind two digits", "type txtHour \"012\"", "01", "34", 94},
-      {"first minute digit", "type txtMinute \"60\"", "12", "6", 726, 1},
-      {"minutes", "type txtMinute \"59\"", "12", "59", 779},
-      {"a letter empties what is marked", "type txtHour \"x\"", "", "34", 34, 1},
-      {"a mark of one digit empties the box", "caret txtHour 1 2147483647\ntype txtHour \"5\"", "5", "34", 334},
-      {"Backspace", "key txtHour Backspace", "", "34", 34},
-      {"Backspace without a mark", "caret txtHour 2 0\nkey txtHour Backspace", "1", "34", 94},
-      {"a letter alone", "caret txtHour 2 0\ntype txtHour \"x\"", "12", "34", 754, 1},
-      {"leaving an empty box", "type txtMinute \"x\"\nfocus txtHour", "12", "00", 720, 1},
-      {"leaving one digit", "type txtMinute \"7\"\nfocus cmdOK", "12", "07", 727},
-      {"up", "key txtHour Up\nkey txtMinute PageUp", "13", "35", 815},
-      {"down", "key txtHour Down\nkey txtMinute PageDown", "11", "33", 693},
-      {"buttons", "step UpDown1 up 12\nfocus txtMinute\nstep UpDown1 down 35", "00", "59", 59},
-      {"wrap up", "focus txtMinute\nstep UpDown1 up 26\nfocus txtHour\nstep UpDown1 down 13", "23", "00", 1380},
-      {"no box to step", "focus cmdOK\nstep UpDown1 up\nkey cmdOK Down", "12", "34", 754, 2},
-  };
-  for (const auto& one : cases) {
-    SCOPED_TRACE(one.What);
-    const auto run = Open(754, std::string(one.Script) + "\ndump\nclick cmdOK");
-    EXPECT_EQ(run.Control("txtHour").at("text"), one.Hour);
-    EXPECT_EQ(run.Control("txtMinute").at("text"), one.Minute);
-    EXPECT_EQ(run.Events("beep").size(), one.Beeps);
-    EXPECT_EQ(run.Argument("res"), Integer(one.Time));
-  }
+  // The first digit replaces all that is marked. A digit between two counts as behind them.
+  ExpectEach({kTime, "{1};dump;click cmdOK", "txtHour txtMinute res beeps"},
+             {"754|type txtHour '23'|23 34 1414 0", "754|type txtHour '24'|2 34 154 1",
+              "754|type txtHour '3';key txtHour Home;type txtHour '1'|13 34 814 0",
+              "754|type txtHour '3';key txtHour Home;type txtHour '3'|3 34 214 1",
+              "754|caret txtHour 1 0;type txtHour '0'|12 34 754 1", "754|type txtHour '012'|01 34 94 0",
+              "754|type txtMinute '60'|12 6 726 1", "754|type txtMinute '59'|12 59 779 0",
+              // A letter empties what is marked, and so does a mark of one digit.
+              "754|type txtHour 'x'| 34 34 1", "754|caret txtHour 1 2147483647;type txtHour '5'|5 34 334 0",
+              "754|key txtHour Backspace| 34 34 0", "754|caret txtHour 2 0;key txtHour Backspace|1 34 94 0",
+              "754|caret txtHour 2 0;type txtHour 'x'|12 34 754 1", "754|type txtMinute 'x';focus txtHour|12 00 720 1",
+              "754|type txtMinute '7';focus cmdOK|12 07 727 0", "754|key txtHour Up;key txtMinute PageUp|13 35 815 0",
+              "754|key txtHour Down;key txtMinute PageDown|11 33 693 0",
+              "754|step UpDown1 up 12;focus txtMinute;step UpDown1 down 35|00 59 59 0",
+              "754|focus txtMinute;step UpDown1 up 26;focus txtHour;step UpDown1 down 13|23 00 1380 0",
+              "754|focus cmdOK;step UpDown1 up;key cmdOK Down|12 34 754 2"});
 }
 
 TEST(Time, PromptsForTheBoxThatHasTheFocusAndStepsWithoutMovingTheCaret) {
-  const auto run = Open(
-      754,
-      "dump\nfocus txtMinute\ndump\nfocus cmdOK\ndump\ncaret txtHour 1 0\nkey - Up\nkey - PageDown\nkey - Up\ndump");
-  EXPECT_EQ(run.Fields("state", "caption")[0], Text(1175));
-  const auto prompt = [&](std::size_t dump) { return run.Control("StatusBar1", dump).at("text"); };
-  EXPECT_EQ(prompt(0), Text(1177, "NUMBER", "1"));
-  EXPECT_EQ(run.Control("txtHour", 0).at("selLength"), 2);
-  EXPECT_EQ(prompt(1), Text(1178, "NUMBER", "1"));
-  EXPECT_EQ(run.Control("txtMinute", 1).at("selLength"), 2);
-  EXPECT_EQ(prompt(2), "");
-  EXPECT_EQ(run.Control("txtHour").at("text"), "13");
-  EXPECT_EQ(run.Control("txtHour").at("selStart"), 1);
+  ExpectEach({kTime, "focus {1};dump", "title StatusBar1 txtHour.selLength txtMinute.selLength"},
+             {"754|txtHour|1175 1177 1 2 0", "754|txtMinute|1175 1178 1 0 2", "754|cmdOK|1175  0 0"});
+  ExpectEach({kTime, "caret txtHour 1 0;key - Up;key - PageDown;key - Up;dump", "txtHour txtHour.selStart"},
+             {"754|13 1"});
 }
 
 // More minutes than a day has, for want of anything else that fails.
@@ -109,7 +60,7 @@ TEST_F(TimeFaults, FailureOfAHandlerIsReportedAndTheDialogStays) {
 }
 
 TEST(Time, FailsAgainWithoutAFaultObject) {
-  const auto run = Open(kTooLate, "focus txtMinute\nkey - Up\nclick cmdOK");
+  const auto run = Play("clsTime_FirePanels", {"Index=32767"}, "focus txtMinute\nkey - Up\nclick cmdOK");
   ASSERT_EQ(run.Events("failure").size(), 1U);
   EXPECT_EQ(run.Events("failure")[0].at("number"), failures::NoObject);
   EXPECT_EQ(run.Events("failure")[0].at("handler"), "cmdOK_Click");
