@@ -152,9 +152,9 @@ void ExpectUntouched(const Row& row, const Call& call, const DialogRun& run) {
   const auto& publicClass = *FindPublicClass(call.Class);
   const auto given = BindArguments(publicClass, call.Arguments, {});
   for (std::size_t i = 0; i < given.size(); ++i) {
-    const auto& [name, kind, changes, optional] = publicClass.Parameters()[i];
-    if (name == kSecurityLevels || row.Decoded == name) continue;
-    EXPECT_EQ(run.Argument(name), Converted(given[i], kind)) << name;
+    const auto& parameter = publicClass.Parameters()[i];
+    if (parameter.Name == kSecurityLevels || row.Decoded == parameter.Name) continue;
+    EXPECT_EQ(run.Argument(parameter.Name), Converted(given[i], parameter.Kind)) << parameter.Name;
   }
 }
 

@@ -67,7 +67,7 @@ TEST(OctalRelays, NothingHappensAtALimitWhileTheNumberIsEmpty) {
 TEST(OctalRelays, OkReadsADecimalZoneAndKeepsWhatItWroteBeforeAFailure) {
   ExpectEach(
       {kOctal + "vType=3 vData=05", "select cmbType 4;type txtFollowZone '{0}';click cmdOK", "result vType vData"},
-      {"&HF|0 4 '00'", "9x|0 4 '09'", "9E9|6 4 9e+09D"});
+      {"&HF|0 4 '00'", "9x|0 4 '09'", "9E9|6 4 9000000000D"});
 }
 
 TEST(OctalRelays, RightsFollowTheInputOfANewType) {
