@@ -174,7 +174,8 @@ void TableWindow::Fill() {
   for (int row = 0; row < view_->rowCount(); ++row) {
     const auto& parameter = rows[static_cast<std::size_t>(row)];
     const auto add = [&](Column at, const QString& text, const QString& before) {
-      auto* cell = new Cell(before.isEmpty() ? text : text + u'\n' + Text(kBefore).replace(QStringLiteral("%VALUE%"), before));
+      auto* cell =
+          new Cell(before.isEmpty() ? text : text + u'\n' + Text(kBefore).replace(QStringLiteral("%VALUE%"), before));
       cell->setToolTip(at == kName ? Shown(parameter.Hint) : cell->text());
       if (parameter.Before) {
         auto font = view_->font();

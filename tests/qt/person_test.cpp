@@ -22,6 +22,7 @@
 
 #include "OrlinCustomDialogs/notes.h"
 #include "OrlinCustomDialogs/outputs.h"
+#include "OrlinCustomDialogs/platform/standard_platform.h"
 #include "OrlinCustomDialogs/schedules.h"
 #include "OrlinCustomDialogs/security_levels.h"
 #include "OrlinCustomDialogs/verification.h"
@@ -30,7 +31,6 @@
 #include "frame/dialog/dialog.h"
 #include "qt/dialog_window.h"
 #include "qt/local_text.h"
-#include "OrlinCustomDialogs/platform/standard_platform.h"
 
 namespace orlin::testing {
 namespace {
