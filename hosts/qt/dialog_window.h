@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QTimer>
 #include <exception>
 #include <memory>
 #include <optional>
@@ -16,6 +17,9 @@
 class QScrollArea;
 
 namespace orlin {
+
+class FocusRing;
+class HelpLine;
 
 /// A dialog of the library in a window. Everything that the operator does goes to the controls; after it, and
 /// before each message, the widgets are brought up to date.
@@ -51,10 +55,18 @@ class DialogWindow final : public QDialog, public Desk {
   /// Throws what a host call threw in a handler.
   void Rethrow();
 
+  /// Brings the help and the ring around the focus up to date, which waits until everything else is painted.
+  void Settle();
+  [[nodiscard]] const HelpLine& Foot() const { return *help_; }
+  /// Where the field is on the screen that the operator worked on last: what a message is about, as far as can be
+  /// known.
+  [[nodiscard]] QRect FieldAtHand() const;
+
  protected:
   bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void reject() override { CloseBox(); }
@@ -68,6 +80,8 @@ class DialogWindow final : public QDialog, public Desk {
   void PresentFocus();
   void PresentDefault();
   void PresentNames();
+  void PresentHelp();
+  void NameDropDown(ControlView& view);
   void Fit();
   /// The largest that the window may be.
   [[nodiscard]] QSize Room() const;
@@ -81,6 +95,10 @@ class DialogWindow final : public QDialog, public Desk {
   std::vector<std::unique_ptr<ControlView>> views_;
   QWidget* body_ = nullptr;
   QWidget* keyboard_ = nullptr;
+  const shown::Control* field_ = nullptr;  // that had the focus last
+  HelpLine* help_ = nullptr;
+  FocusRing* ring_ = nullptr;
+  QTimer settling_;
   std::optional<std::uint32_t> revision_;
   bool stretches_ = false;
   bool presenting_ = false;

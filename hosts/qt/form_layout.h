@@ -18,8 +18,8 @@ class FormLayout {
  public:
   FormLayout(const Form& form, WidgetOf widgetOf) : form_(form), widgetOf_(std::move(widgetOf)) {}
 
-  /// The whole window: the form, the row of buttons, the status line.
-  void LayOut(QWidget& window, QWidget& body);
+  /// The whole window: the form, the row of buttons, the status line, the line with help.
+  void LayOut(QWidget& window, QWidget& body, QWidget& help);
 
   /// Whether a window made larger has something to show in it.
   [[nodiscard]] bool Stretches() const noexcept { return stretches_; }

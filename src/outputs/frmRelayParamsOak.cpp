@@ -125,7 +125,7 @@ void frmRelayParamsOak::FillParameterList() {
   // A right that has no record restricts nothing.
   bool enabled = true;
   SkipFailure([&] { enabled = MayEdit(Form.SecurityLevels(), ParameterKey); });
-  lstMSParam.SetEnabled(enabled);
+  lstMSParam.SetAllowed(enabled);
   switch (kFunctions[static_cast<std::size_t>(CodeAt(cmbFunction.ListIndex(), model))].CheckItems) {
     case Items::Points:
       return AddParameters(model.PointItems, 400, "POINT");

@@ -175,12 +175,12 @@ void frmSkedFuncsWillow::DisplayDOW(const Value* vSkedData) {
     const bool visible = ViewLevelReaches(&SecurityLevel::ViewLevel, key).value_or(false);
     const bool enabled = ViewLevelReaches(&SecurityLevel::EditLevel, key).value_or(false);
     chkDOW[day].SetVisible(visible);
-    chkDOW[day].SetEnabled(enabled);
+    chkDOW[day].SetAllowed(enabled);
     visibleDays += visible ? 1 : 0;
     enabledDays += enabled ? 1 : 0;
   }
   if (visibleDays == 0) fraDOW.SetVisible(false);
-  if (enabledDays == 0) fraDOW.SetEnabled(false);
+  if (enabledDays == 0) fraDOW.SetAllowed(false);
 
   if (vSkedData == nullptr) return;
   // Days that are no number fail the call: nothing may be shown that OK would store in their place.

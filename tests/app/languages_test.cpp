@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include "OrlinCustomDialogs/host/form.h"
+
 #include "app/account/account.h"
 #include "app/calls/arguments.h"
 #include "app/calls/installed_platform.h"
@@ -95,9 +97,11 @@ class Explorer : public DialogHost {
 
   void Look(const shown::Dialog& dialog) {
     ExpectFilled(dialog.Caption());
+    const auto form = FormOf(dialog);
     std::map<char32_t, const shown::Control*> owners;
     for (const auto* control : dialog.Controls()) {
       ExpectFilled(control->Caption());
+      ExpectFilled(form.HelpFor(*control));
       if (const auto* rows = control->AsRowList()) {
         for (int row = 0; row < rows->ListCount(); ++row) ExpectFilled(rows->List(row));
       }
@@ -123,6 +127,7 @@ class Explorer : public DialogHost {
 struct Call {
   const PublicClass* Class;
   std::vector<std::string> Arguments;
+  std::vector<std::string> Levels = {};
 };
 
 /// The calls of the example account, and more for texts that only other values show.
@@ -155,6 +160,9 @@ std::vector<Call> Calls(const Account& account) {
       calls.back().Arguments.insert(calls.back().Arguments.end(), {sia, comm});
     }
   }
+  calls.push_back({FindPublicClass("clsZoneFunctionsBirch"),
+                   {"vType=3", "vOption=1", "vTroubleOn=2"},
+                   {"AuthorityLevel=5,1", "Type=1,5"}});
   return calls;
 }
 
@@ -171,7 +179,8 @@ Numbers Explored(const Language& language) {
   const InstalledPlatform installed(std::move(platform));
   const Account account(ORLIN_EXAMPLES "/account.json");
   for (const auto& call : Calls(account)) {
-    auto arguments = BindArguments(*call.Class, call.Arguments, account.Parameters().front().Levels);
+    auto arguments = BindArguments(*call.Class, call.Arguments,
+                                   call.Levels.empty() ? account.Parameters().front().Levels : call.Levels);
     EXPECT_LE(call.Class->Display(arguments), 2) << call.Class->Name();
   }
   return asked;

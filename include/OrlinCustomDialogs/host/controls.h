@@ -239,7 +239,8 @@ class Control {
   [[nodiscard]] virtual Control* Names() const = 0;
   /// Of a value or a colour key, the label that tells what it is; else null.
   [[nodiscard]] virtual Control* ToldBy() const noexcept = 0;
-  /// What the dialog calls a control for people who do not see it, where that is more than caption and label tell.
+  /// What the dialog calls a control for people who do not see it, where that is more than caption and label tell. Of a
+  /// unit, what it means, which a host with room for it shows in its place.
   [[nodiscard]] virtual std::string SpokenName() const = 0;
 
   /// Moves the focus here.
@@ -260,6 +261,9 @@ class Control {
   [[nodiscard]] const Stepper* AsStepper() const noexcept { return const_cast<Control*>(this)->AsStepper(); }
   [[nodiscard]] const Ticker* AsTicker() const noexcept { return const_cast<Control*>(this)->AsTicker(); }
   [[nodiscard]] const Table* AsTable() const noexcept { return const_cast<Control*>(this)->AsTable(); }
+
+  /// Whether the control is disabled because the operator's rights do not reach it; false also where nothing tells.
+  [[nodiscard]] virtual bool DeniedByRights() const noexcept { return false; }
 
  protected:
   ~Control() = default;

@@ -46,7 +46,7 @@ void Restrict(const SecurityLevels& levels, const SecurityLevel& record, const s
   const auto& authority = levels.Item(kAuthorityLevel);
   for (const auto& control : controls) {
     if (authority.ViewLevel < record.ViewLevel) control.SetVisible(false);
-    if (authority.EditLevel < record.EditLevel) control.SetEnabled(false);
+    if (authority.EditLevel < record.EditLevel) control.SetAllowed(false);
   }
 }
 
