@@ -6,7 +6,12 @@
 namespace orlin {
 namespace {
 
-constexpr double kEnough = 4.5;
+// Fusion, and what is built on it, draws outlines in the colour of windows made darker by that; of marks lighter again.
+// Marks themselves are drawn in the colour of texts, made darker.
+constexpr int kDarkerOutline = 140;
+constexpr int kLighterMarkOutline = 110;
+constexpr int kDarkerMark = 120;
+constexpr double kStep = 0.05;
 
 double Linear(double part) { return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); }
 
@@ -20,6 +25,20 @@ QColor Mixed(const QColor& from, const QColor& to, double share) {
   };
   return QColor::fromRgbF(part(from.redF(), to.redF()), part(from.greenF(), to.greenF()),
                           part(from.blueF(), to.blueF()));
+}
+
+QColor FarFrom(const QColor& background) {
+  return Contrast(Qt::white, background) > Contrast(Qt::black, background) ? Qt::white : Qt::black;
+}
+
+/// The colour, moved towards another one no farther than it takes.
+template <class Enough>
+QColor Changed(const QColor& colour, const QColor& towards, Enough enough) {
+  for (double share = 0; share < 1; share += kStep) {
+    const auto mixed = Mixed(colour, towards, share);
+    if (enough(mixed)) return mixed;
+  }
+  return towards;
 }
 
 }  // namespace
@@ -36,13 +55,49 @@ double Contrast(const QColor& text, const QColor& background) {
   return (light + 0.05) / (dark + 0.05);
 }
 
-QColor Readable(const QColor& text, const QColor& background) {
-  const QColor towards = Contrast(Qt::white, background) > Contrast(Qt::black, background) ? Qt::white : Qt::black;
-  for (double share = 0; share < 1; share += 0.05) {
-    const auto mixed = Mixed(text, towards, share);
-    if (Contrast(mixed, background) >= kEnough) return mixed;
+QColor Readable(const QColor& text, const QColor& background, double contrast) {
+  const auto enough = [&](const QColor& mixed) { return Contrast(mixed, background) >= contrast; };
+  return Changed(text, FarFrom(background), enough);
+}
+
+QColor Outline(const QPalette& palette) { return palette.color(QPalette::Window).darker(kDarkerOutline); }
+
+QColor MarkOutline(const QPalette& palette) { return Outline(palette).lighter(kLighterMarkOutline); }
+
+QColor Mark(const QPalette& palette, QPalette::ColorGroup group) {
+  return palette.color(group, QPalette::Text).darker(kDarkerMark);
+}
+
+QPalette Legible(QPalette palette) {
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    const auto colour = [&](QPalette::ColorRole role) { return palette.color(group, role); };
+    const auto change = [&](QPalette::ColorRole role, const QColor& wanted) {
+      if (colour(role) != wanted) palette.setColor(group, role, wanted);
+    };
+    change(QPalette::WindowText, Readable(colour(QPalette::WindowText), colour(QPalette::Window)));
+    change(QPalette::ButtonText, Readable(colour(QPalette::ButtonText), colour(QPalette::Button)));
+    const auto base = colour(QPalette::Base);
+    change(QPalette::Text, Changed(colour(QPalette::Text), FarFrom(base), [&](const QColor& text) {
+             return Contrast(text, base) >= kTextContrast && Contrast(text.darker(kDarkerMark), base) >= kMarkContrast;
+           }));
+    // What is selected keeps its white or black text.
+    change(QPalette::Highlight, Readable(colour(QPalette::Highlight), colour(QPalette::HighlightedText)));
   }
-  return towards;
+  return palette;
+}
+
+QPalette Outlined(QPalette palette) {
+  const auto window = palette.color(QPalette::Window);
+  const auto base = palette.color(QPalette::Base);
+  const auto enough = [&](const QColor& outline) {
+    const auto seen = [&](const QColor& line) {
+      return Contrast(line, window) >= kMarkContrast && Contrast(line, base) >= kMarkContrast;
+    };
+    return seen(outline) && seen(outline.lighter(kLighterMarkOutline));
+  };
+  const auto outline = Changed(window, FarFrom(window), enough);
+  palette.setColor(QPalette::Window, outline.lighter(kDarkerOutline));
+  return palette;
 }
 
 }  // namespace orlin

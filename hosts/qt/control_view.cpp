@@ -4,13 +4,14 @@
 
 namespace orlin {
 
-bool ControlView::Update() {
-  if (seen_ && revision_ == Control().Revision()) return false;
-  seen_ = true;
+bool ControlView::Update(bool isSeen) {
+  if (presented_ && isSeen_ == isSeen && revision_ == Control().Revision()) return false;
+  presented_ = true;
+  isSeen_ = isSeen;
   revision_ = Control().Revision();
   if (auto* widget = Widget()) {
     // Also where nothing is new, these take their time.
-    if (widget->isHidden() == Control().Visible()) widget->setVisible(Control().Visible());
+    if (widget->isHidden() == isSeen) widget->setVisible(isSeen);
     if (widget->isEnabledTo(widget->parentWidget()) != Control().Enabled()) widget->setEnabled(Control().Enabled());
   }
   Present();

@@ -43,8 +43,8 @@ class ControlView {
   /// What has the keyboard while the control has the focus.
   [[nodiscard]] virtual QWidget* KeyboardWidget() const { return Widget(); }
 
-  /// Brings the widget up to date, if the control has changed since. Tells whether it had.
-  bool Update();
+  /// Brings the widget up to date, if the control has changed since, or is to be seen and was not. Tells whether so.
+  bool Update(bool isSeen);
   /// Shows the whole state again, whatever has changed.
   virtual void Present() = 0;
   /// A key that is not for the dialog but for the window: the clipboard, a mark with Shift, the rows of a drop-down
@@ -60,7 +60,8 @@ class ControlView {
   ControlView() = default;
 
  private:
-  bool seen_ = false;
+  bool presented_ = false;
+  bool isSeen_ = false;
   std::uint32_t revision_ = 0;
 };
 

@@ -14,7 +14,10 @@
 #include <utility>
 
 #include "qt/code_view.h"
+#include "qt/colours.h"
 #include "qt/form_layout.h"
+#include "qt/help_line.h"
+#include "qt/help_page.h"
 #include "qt/key_events.h"
 #include "qt/passive_edit.h"
 #include "qt/stand_over.h"
@@ -37,7 +40,9 @@ DialogWindow::DialogWindow(shown::Dialog& dialog, Timers timers, QWidget* parent
   setWindowModality(Qt::ApplicationModal);
   setFocusPolicy(Qt::StrongFocus);
   StandOver(*this, parent);
+  setPalette(Legible(palette()));
   body_ = new QWidget(this);
+  body_->setPalette(Outlined(palette()));
   MakeViews(*body_);
   Present();
   const auto remarkOf = [this](const auto& control) {
@@ -46,7 +51,10 @@ DialogWindow::DialogWindow(shown::Dialog& dialog, Timers timers, QWidget* parent
   };
   FormLayout layout(
       form_, [this](const auto& control) { return ViewOf(control).Widget(); }, remarkOf);
-  layout.LayOut(*this, *body_);
+  help_ = new HelpLine(this);
+  layout.LayOut(*this, *body_, *help_);
+  settling_.setSingleShot(true);
+  QObject::connect(&settling_, &QTimer::timeout, this, [this] { Settle(); });
   stretches_ = layout.Stretches();
 }
 
@@ -78,6 +86,7 @@ void DialogWindow::MakeViews(QWidget& body) {
       if (made != views_.end()) parent = (*made)->Widget();
     }
     views_.push_back(MakeView(*control, *this, parent));
+    if (auto* widget = views_.back()->Widget(); widget != nullptr && parent == this) widget->setPalette(body.palette());
     Watch(*views_.back());
   }
   const auto isCode = [](const auto& view) { return dynamic_cast<CodeView*>(view.get()) != nullptr; };
@@ -167,14 +176,59 @@ void DialogWindow::Present() {
     revision_ = dialog_.Revision();
     setWindowTitle(Shown(dialog_.Caption()));
   }
-  for (const auto& view : views_) different = view->Update() || different;
+  for (const auto& view : views_) different = view->Update(form_.Shows(view->Control())) || different;
   if (different) PresentNames();
   different = PresentRemarks() || different;
   if (layout() != nullptr) {
     PresentFocus();
-    if (different && isVisible()) Fit();
+    if (different && isVisible()) {
+      Fit();
+      settling_.start();
+    }
   }
   presenting_ = false;
+}
+
+void DialogWindow::Settle() {
+  settling_.stop();
+  if (!dialog_.IsShown()) return;
+  PresentHelp();
+  const auto* focused = dialog_.FocusedControl();
+  if (ring_ == nullptr) ring_ = new FocusRing(this);
+  ring_->setWidget(focused != nullptr && focused->WithinReach() ? ViewOf(*focused).Widget() : nullptr);
+}
+
+void DialogWindow::PresentHelp() {
+  const auto* focused = dialog_.FocusedControl();
+  help_->Show(focused != nullptr ? orlin::Shown(form_.HelpFor(*focused)) : QString());
+  for (const auto& view : views_) {
+    auto* widget = view->Widget();
+    if (widget == nullptr || !view->Control().IsShown()) continue;
+    NameDropDown(*view);
+    const auto help = orlin::Shown(form_.HelpFor(view->Control()));
+    if (widget->toolTip() == help) continue;
+    widget->setToolTip(help);
+    widget->setAccessibleDescription(help);
+  }
+}
+
+// On some systems Qt gives a drop-down list its text for a name, and leaves the name to a label that belongs to it.
+void DialogWindow::NameDropDown(ControlView& view) {
+  const auto& control = view.Control();
+  if (control.Kind() != ControlKind::ComboBox) return;
+  const auto labels = view.Widget()->parentWidget()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly);
+  const auto known =
+      std::find_if(labels.begin(), labels.end(), [&](const auto* label) { return label->buddy() == view.Widget(); });
+  auto* label = known != labels.end() ? *known : new QLabel(view.Widget()->parentWidget());
+  if (known == labels.end()) label->hide();
+  label->setBuddy(view.Widget());
+  if (label->isHidden()) label->setText(SpokenCaption(form_.NameOf(control)));
+}
+
+QRect DialogWindow::FieldAtHand() const {
+  if (field_ == nullptr || !field_->IsShown()) return {};
+  const auto* widget = ViewOf(*field_).Widget();
+  return {widget->mapToGlobal(QPoint()), widget->size()};
 }
 
 void DialogWindow::PresentFocus() {
@@ -184,6 +238,8 @@ void DialogWindow::PresentFocus() {
   if (code_ != nullptr && code_->HasKeyboard()) wanted = code_->KeyboardWidget();
   if (wanted == keyboard_ && wanted->hasFocus()) return;
   const bool another = std::exchange(keyboard_, wanted) != wanted;
+  if (focused != nullptr && focused->Kind() != ControlKind::Button) field_ = focused;
+  if (isVisible()) settling_.start();
   if (another) PresentDefault();
   wanted->setFocus(Qt::OtherFocusReason);
   if (auto* area = Scrolling(); area != nullptr && area->isAncestorOf(wanted)) area->ensureWidgetVisible(wanted);
@@ -263,6 +319,8 @@ void DialogWindow::Fit() {
     area->setFocusPolicy(Qt::NoFocus);
     delete layout()->replaceWidget(body_, area);
     area->setWidget(body_);
+    // Its ground is that of the window, and no colour of outlines.
+    body_->setAutoFillBackground(false);
     body_ = area;
     // What moves into another widget loses the keyboard.
     keyboard_ = nullptr;
@@ -340,6 +398,10 @@ void DialogWindow::TakeKey(ControlView* view, const QKeyEvent& key) {
   if (code_ != nullptr && code_->TakeTab(key)) return;
   if (view != nullptr && view->TakeWindowKey(key)) return;
   if (key.key() == Qt::Key_Escape && EscapeEnds() && !MayEnd()) return;
+  if (key.key() == Qt::Key_F1) {
+    if (const auto page = HelpPageOf(dialog_.Name()); !page.isEmpty()) ShowHelpPage(page, *this);
+    return;
+  }
   constexpr qint64 typingPause = 1000;
   if (ServesPerson() && sinceKey_.isValid() && sinceKey_.elapsed() > typingPause) {
     dialog_.PauseTyping();
@@ -359,6 +421,11 @@ void DialogWindow::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   // Styles mark what has the focus only where the keyboard of Qt has moved it; here the dialog moves it.
   setAttribute(Qt::WA_KeyboardFocusChange);
+}
+
+void DialogWindow::paintEvent(QPaintEvent* event) {
+  QDialog::paintEvent(event);
+  if (ring_ == nullptr) settling_.start();
 }
 
 void DialogWindow::closeEvent(QCloseEvent* event) {

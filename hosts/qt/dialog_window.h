@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QTimer>
 #include <exception>
 #include <map>
 #include <memory>
@@ -22,6 +23,8 @@ class QScrollArea;
 namespace orlin {
 
 class CodeView;
+class FocusRing;
+class HelpLine;
 
 /// A dialog of the library in a window. Everything that the operator does goes to the controls; after it, and
 /// before each message, the widgets are brought up to date.
@@ -57,10 +60,18 @@ class DialogWindow final : public QDialog, public Desk {
   /// Throws what a host call threw in a handler.
   void Rethrow();
 
+  /// Brings the help and the ring around the focus up to date, which waits until everything else is painted.
+  void Settle();
+  [[nodiscard]] const HelpLine& Foot() const { return *help_; }
+  /// Where the field is on the screen that the operator worked on last: what a message is about, as far as can be
+  /// known.
+  [[nodiscard]] QRect FieldAtHand() const;
+
  protected:
   bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void reject() override { CloseBox(); }
@@ -76,6 +87,8 @@ class DialogWindow final : public QDialog, public Desk {
   void PresentNames();
   /// What is wrong with a code stands below its lists. Tells whether something else stands there now.
   bool PresentRemarks();
+  void PresentHelp();
+  void NameDropDown(ControlView& view);
   void Fit();
   /// The largest that the window may be.
   [[nodiscard]] QSize Room() const;
@@ -97,6 +110,10 @@ class DialogWindow final : public QDialog, public Desk {
   WordSearch search_;
   QWidget* body_ = nullptr;
   QWidget* keyboard_ = nullptr;
+  const shown::Control* field_ = nullptr;  // that had the focus last
+  HelpLine* help_ = nullptr;
+  FocusRing* ring_ = nullptr;
+  QTimer settling_;
   std::optional<std::uint32_t> revision_;
   bool stretches_ = false;
   bool presenting_ = false;

@@ -15,11 +15,16 @@ constexpr std::size_t kMostMarksBelowEachOther = 4;
 constexpr int kColumnsOfMarks = 4;
 constexpr int kLettersOfNumber = 8;
 constexpr int kLettersOfButton = 14;
-constexpr int kLettersOfTitleButtons = 12;
+constexpr int kLettersOfTitleButtons = 16;
 
 bool IsExpanding(const QWidget& widget) { return widget.sizePolicy().expandingDirections().testFlag(Qt::Horizontal); }
 
 bool HasTall(const FormLine& line, ControlKind kind) { return !line.empty() && line.front()->Kind() == kind; }
+
+bool IsOfLines(const shown::Control& control) {
+  const auto* text = control.AsTextField();
+  return text != nullptr && text->MultiLine();
+}
 
 bool IsList(const FormRow& row) {
   return row.What == FormRow::Kind::Tall &&
@@ -36,12 +41,15 @@ bool IsCheckOfArray(const FormRow& row) {
 
 }  // namespace
 
-void FormLayout::LayOut(QWidget& window, QWidget& body) {
+void FormLayout::LayOut(QWidget& window, QWidget& body, QWidget& help) {
   Fill(body, form_.Body);
   AlignFrames();
   auto* all = new QVBoxLayout(&window);
   const int letter = window.fontMetrics().averageCharWidth();
-  body.layout()->setContentsMargins(0, 0, 0, 0);
+  // Room for the ring around what has the focus, taken from the margins of the window.
+  const int ring = window.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &window);
+  body.layout()->setContentsMargins(ring, ring, ring, ring);
+  all->setContentsMargins(all->contentsMargins() - ring);
   all->addWidget(&body, 1);
   // The frame shows the title in letters of its own, between buttons.
   const auto titleLetters = static_cast<int>(window.windowTitle().size()) + kLettersOfTitleButtons;
@@ -64,8 +72,12 @@ void FormLayout::LayOut(QWidget& window, QWidget& body) {
   }
   for (const auto* button : form_.RightButtons) widgetOf_(*button)->setMinimumWidth(widest);
   all->addSpacing(all->spacing());
-  all->addLayout(buttons);
-  if (form_.Status != nullptr) all->addWidget(widgetOf_(*form_.Status));
+  auto* foot = new QVBoxLayout();
+  foot->setContentsMargins(ring, 0, ring, 0);
+  foot->addLayout(buttons);
+  if (form_.Status != nullptr) foot->addWidget(widgetOf_(*form_.Status));
+  foot->addWidget(&help);
+  all->addLayout(foot);
 }
 
 void FormLayout::Fill(QWidget& container, const std::vector<FormRow>& rows) {
@@ -127,10 +139,12 @@ void FormLayout::AddRow(QGridLayout& grid, const FormRow& row) {
     case FormRow::Kind::Frame: {
       const auto& frame = *row.Lines.front().front();
       auto* box = widgetOf_(frame);
-      Fill(*box, form_.Frames.at(&frame));
+      const auto& inside = form_.Frames.at(&frame);
+      Fill(*box, inside);
       frameGrids_.push_back(static_cast<QGridLayout*>(box->layout()));
       grid.addWidget(box, at, 0, 1, 2);
-      return grid.setRowStretch(at, 0);
+      const auto isTall = [](const auto& part) { return part.What == FormRow::Kind::Tall; };
+      return grid.setRowStretch(at, std::any_of(inside.begin(), inside.end(), isTall) ? 1 : 0);
     }
     case FormRow::Kind::Buttons:
       return grid.addLayout(Line(row.Lines.front(), false), at, 0, 1, 2);
@@ -179,7 +193,7 @@ QLayout* FormLayout::Column(const FormRow& row, int spacing) {
   const bool besideGrid = HasTall(row.Lines.front(), ControlKind::Grid) && row.Lines.size() > 1;
   if (!besideGrid) {
     for (const auto& line : row.Lines) {
-      const bool tall = line.size() == 1 && !HasTall(line, ControlKind::TextBox);
+      const bool tall = line.size() == 1 && (line.front()->Kind() != ControlKind::TextBox || IsOfLines(*line.front()));
       AddLine(*column, line, tall ? 1 : 0);
     }
     // Takes the room where no list is visible.

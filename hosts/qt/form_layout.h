@@ -20,8 +20,8 @@ class FormLayout {
   FormLayout(const Form& form, WidgetOf widgetOf, WidgetOf remarkOf)
       : form_(form), widgetOf_(std::move(widgetOf)), remarkOf_(std::move(remarkOf)) {}
 
-  /// The whole window: the form, the row of buttons, the status line.
-  void LayOut(QWidget& window, QWidget& body);
+  /// The whole window: the form, the row of buttons, the status line, the line with help.
+  void LayOut(QWidget& window, QWidget& body, QWidget& help);
 
   /// Whether a window made larger has something to show in it.
   [[nodiscard]] bool Stretches() const noexcept { return stretches_; }

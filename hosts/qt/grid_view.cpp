@@ -105,7 +105,9 @@ class CellModel final : public QAbstractTableModel {
     const int row = index.row() + TitleRows();
     const auto& cell = cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(index.column())];
     const bool fixed = index.column() < grid_.FixedCols() || row < grid_.FixedRows();
-    const auto ground = view_.palette().color(fixed ? QPalette::Window : QPalette::Base);
+    // The palette of what stands in a window has another colour for it.
+    const auto ground =
+        fixed ? view_.window()->palette().color(QPalette::Window) : view_.palette().color(QPalette::Base);
     switch (role) {
       case Qt::DisplayRole:
         return Shown(cell.Text);
@@ -168,7 +170,8 @@ class CellDelegate final : public QStyledItemDelegate {
       // While the keyboard is elsewhere, in the colour of texts, which is as plain on any ground.
       const bool hasKeyboard = option.widget != nullptr && option.widget->hasFocus();
       const auto colour = option.palette.color(QPalette::Active, hasKeyboard ? QPalette::Highlight : QPalette::Text);
-      painter->setPen(QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+      painter->setPen(QPen(Readable(colour, option.palette.color(QPalette::Base), kMarkContrast), width, Qt::SolidLine,
+                           Qt::SquareCap, Qt::MiterJoin));
       painter->drawRect(option.rect.adjusted(width / 2, width / 2, -width / 2, -width / 2));
     }
     painter->restore();

@@ -6,7 +6,9 @@
 #include <QStyle>
 #include <algorithm>
 
+#include "qt/colours.h"
 #include "qt/key_events.h"
+#include "qt/mark_style.h"
 #include "qt/passive_edit.h"
 #include "qt/row_model.h"
 #include "qt/text_actions.h"
@@ -175,6 +177,15 @@ class RowsView final : public QListView {
   void mouseReleaseEvent(QMouseEvent*) override {}
   void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
   void inputMethodEvent(QInputMethodEvent* event) override { event->accept(); }
+  // The row is grey while the keyboard is elsewhere.
+  void initViewItemOption(QStyleOptionViewItem* option) const override {
+    QListView::initViewItemOption(option);
+    if (hasFocus() || !isEnabled()) return;
+    const auto base = palette().color(QPalette::Base);
+    const auto grey = Readable(base, base, kMarkContrast);
+    option->palette.setColor(QPalette::Highlight, grey);
+    option->palette.setColor(QPalette::HighlightedText, Readable(palette().color(QPalette::Text), grey));
+  }
 
  private:
   [[nodiscard]] QSize HintFor(int mostRows) const {
@@ -201,27 +212,16 @@ class ListBoxView final : public ViewOf<shown::RowList> {
  public:
   ListBoxView(shown::Control& list, Desk& desk, QWidget* parent)
       : ViewOf(list, *list.AsRowList(), desk), rows_(new RowsView(parent, [this](int row) { Press(row); })) {
-    rows_->hasChecks = Its().Choice() == shown::Choice::Checks;
-    rows_->setSelectionMode(Its().Choice() == shown::Choice::Many ? QAbstractItemView::MultiSelection
-                                                                  : QAbstractItemView::SingleSelection);
+    rows_->hasChecks = Its().Choice() != shown::Choice::One;
+    if (rows_->hasChecks) GrowMarks(*rows_);
   }
   [[nodiscard]] QWidget* Widget() const override { return rows_; }
 
   void Present() override {
     rows_->Rows().Take(Its());
     rows_->updateGeometry();
-    const auto row = [&](int number) { return rows_->Rows().index(number); };
-    const auto current = row(Its().ListIndex());
-    QItemSelection chosen;
-    if (Its().Choice() == shown::Choice::Many) {
-      for (int i = 0; i < Its().ListCount(); ++i) {
-        if (Its().Selected(i)) chosen.select(row(i), row(i));
-      }
-    } else if (current.isValid()) {
-      chosen.select(current, current);
-    }
-    rows_->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
-    rows_->selectionModel()->select(chosen, QItemSelectionModel::ClearAndSelect);
+    const auto current = rows_->Rows().index(Its().ListIndex());
+    rows_->selectionModel()->setCurrentIndex(current, QItemSelectionModel::ClearAndSelect);
     if (current.isValid()) rows_->scrollTo(current);
   }
 

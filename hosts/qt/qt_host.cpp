@@ -50,6 +50,26 @@ int AnswerOf(int button, int flags) {
   }
 }
 
+/// A message that leaves the field uncovered that it is about.
+class MessageBox final : public QMessageBox {
+ public:
+  explicit MessageBox(DialogWindow* window) : QMessageBox(window), window_(window) {}
+
+ protected:
+  // Only what is about to be shown has its size.
+  void showEvent(QShowEvent* event) override {
+    QMessageBox::showEvent(event);
+    const auto field = window_ != nullptr ? window_->FieldAtHand() : QRect();
+    if (field.isEmpty()) return;
+    const auto around = window_->frameGeometry();
+    const auto border = around.size() - window_->size();
+    move(PlaceBeside(field, around, size() + border, window_->screen()->availableGeometry()));
+  }
+
+ private:
+  DialogWindow* window_;
+};
+
 }  // namespace
 
 SizeInTwips QtHost::Screen() const {
@@ -73,7 +93,7 @@ int QtHost::ShowMessage(const Message& message) {
     window_->Present();
     window_->show();
   }
-  QMessageBox box(window_);
+  MessageBox box(window_);
   StandOver(box, Parent());
   box.setTextFormat(Qt::PlainText);
   box.setText(Shown(message.Text));

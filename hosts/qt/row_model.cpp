@@ -63,7 +63,7 @@ void RowModel::Take(const shown::RowList& list) {
     checked_.assign(texts_.Rows().size(), false);
     endResetModel();
   }
-  hasChecks_ = list.Choice() == shown::Choice::Checks;
+  hasChecks_ = list.Choice() != shown::Choice::One;
   if (!hasChecks_ || rowCount() == 0) return;
   for (int row = 0; row < rowCount(); ++row) checked_[static_cast<std::size_t>(row)] = list.Selected(row);
   emit dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});

@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
@@ -17,6 +18,7 @@
 #include "OrlinCustomDialogs/host/keys.h"
 
 #include "qt/colours.h"
+#include "qt/mark_style.h"
 #include "qt/texts.h"
 #include "qt/views.h"
 
@@ -48,7 +50,8 @@ class LabelView final : public ViewOf<shown::Control> {
   [[nodiscard]] QWidget* Widget() const override { return label_; }
   void Present() override {
     // Only the label of a field shows its access key, and only there does "&&" mean "&".
-    const auto caption = label_->buddy() != nullptr ? Its().Caption() : PlainCaption(Its().Caption());
+    auto caption = label_->buddy() != nullptr ? Its().Caption() : PlainCaption(Its().Caption());
+    if (auto meaning = Its().SpokenName(); !meaning.empty()) caption = std::move(meaning);
     label_->setText(Wrapped(Shown(caption), label_->fontMetrics(), CaptionWidth(*label_)));
     if (Its().Role() == shown::LabelRole::ColourKey) ShowSign();
     if (!Its().BackColor()) return;
@@ -80,10 +83,26 @@ class LabelView final : public ViewOf<shown::Control> {
   QLabel* label_;
 };
 
+/// Styles draw the border so faintly that it groups nothing for many eyes.
+class Box final : public QGroupBox {
+ public:
+  using QGroupBox::QGroupBox;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QGroupBox::paintEvent(event);
+    QStyleOptionGroupBox option;
+    initStyleOption(&option);
+    const auto inside = style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, this);
+    QPainter painter(this);
+    painter.setPen(Outline(palette()));
+    painter.drawRect(inside.adjusted(-1, -1, 0, 0));
+  }
+};
+
 class FrameView final : public ViewOf<shown::Control> {
  public:
-  FrameView(shown::Control& frame, Desk& desk, QWidget* parent)
-      : ViewOf(frame, frame, desk), box_(new QGroupBox(parent)) {}
+  FrameView(shown::Control& frame, Desk& desk, QWidget* parent) : ViewOf(frame, frame, desk), box_(new Box(parent)) {}
   [[nodiscard]] QWidget* Widget() const override { return box_; }
   void Present() override {
     box_->setTitle(Shown(Its().Caption()));
@@ -111,6 +130,7 @@ class PressView : public ViewOf<shown::Control> {
   PressView(shown::Control& control, Desk& desk, QWidget* parent)
       : ViewOf(control, control, desk), button_(new PassiveButton<Button>(parent)) {
     button_->setFocusPolicy(Qt::TabFocus);
+    if (control.AsMark() != nullptr) GrowMarks(*button_);
     QObject::connect(button_, &QAbstractButton::clicked, button_,
                      [this] { At().Do([this] { return Its().Press(); }); });
   }

@@ -1,6 +1,7 @@
 #include "qt/stand_over.h"
 
 #include <QWindow>
+#include <algorithm>
 
 namespace orlin {
 namespace {
@@ -16,7 +17,38 @@ QString StyleSheetsIn(const QWidget& parent) {
   return sheets;
 }
 
+constexpr int kGap = 8;
+
+QRect Within(const QRect& screen, QRect box) {
+  box.moveRight(std::min(box.right(), screen.right()));
+  box.moveBottom(std::min(box.bottom(), screen.bottom()));
+  box.moveLeft(std::max(box.left(), screen.left()));
+  box.moveTop(std::max(box.top(), screen.top()));
+  return box;
+}
+
 }  // namespace
+
+QPoint PlaceBeside(const QRect& field, const QRect& window, QSize box, const QRect& screen) {
+  QRect best;
+  const auto covered = [&](const QRect& place) {
+    const auto common = place.intersected(field);
+    return common.isEmpty() ? 0 : common.width() * common.height();
+  };
+  // What is free, in the order in which an eye finds it from the field.
+  for (const auto& kept : {window, field}) {
+    const QPoint corners[] = {{kept.right() + kGap, field.top()},
+                              {field.left(), kept.bottom() + kGap},
+                              {kept.left() - kGap - box.width(), field.top()},
+                              {field.left(), kept.top() - kGap - box.height()}};
+    for (const auto& corner : corners) {
+      const auto place = Within(screen, {corner, box});
+      if (!place.intersects(kept)) return place.topLeft();
+      if (best.isNull() || covered(place) < covered(best)) best = place;
+    }
+  }
+  return best.topLeft();
+}
 
 // The window is no child of a parent that may go first: it would be deleted with it, and the handler that runs with it.
 // So the window system alone knows what it stands over; what else a child has from its parent is copied.

@@ -16,7 +16,7 @@ constexpr int kUsualColumns = 24;
 
 void ShowGround(QWidget& field, const shown::Control& control) {
   if (!control.BackColor()) return;
-  auto palette = QApplication::palette(&field);
+  auto palette = field.parentWidget()->palette();
   const auto ground = ColourOf(*control.BackColor(), palette);
   palette.setColor(QPalette::Base, ground);
   palette.setColor(QPalette::Text, Readable(palette.color(QPalette::Text), ground));

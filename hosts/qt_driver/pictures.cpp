@@ -46,6 +46,7 @@ void PictureHost::ShowModal(shown::Dialog& dialog) {
   DialogWindow window(dialog, DialogWindow::Timers::Stand, nullptr);
   window.SetRoom(kScreen);
   window.Open();
+  window.Settle();
   QApplication::processEvents();
   const auto folder = Shown(options_.Folder);
   const auto file = QDir(folder).filePath(Shown(name_()) + QStringLiteral(".png"));

@@ -165,7 +165,7 @@ void frmOctalRelaysBirch::ShowWithinRights(std::string_view key, const std::vect
               [&] { enabled = MayEdit(Form.SecurityLevels(), key); });
   for (const auto& control : controls) {
     control.SetVisible(visible);
-    control.SetEnabled(enabled);
+    control.SetAllowed(enabled);
   }
 }
 

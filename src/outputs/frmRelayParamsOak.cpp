@@ -90,7 +90,7 @@ void frmRelayParamsOak::FillParameterList() {
   // A right that has no record restricts nothing.
   bool enabled = true;
   SkipFailure([&] { enabled = MayEdit(Form.SecurityLevels(), ParameterKey); });
-  lstMSParam.SetEnabled(enabled);
+  lstMSParam.SetAllowed(enabled);
   const auto position = cmbFunction.ListIndex();
   if (position >= 1 && position <= 5) {
     AddParameters(ModelOf(PanelType).PointItems, 400, "POINT");

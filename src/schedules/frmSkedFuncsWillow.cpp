@@ -174,12 +174,12 @@ void frmSkedFuncsWillow::DisplayDOW(const Value* vSkedData) {
     // Unlike the other parts, a day needs a record that allows it.
     const auto rights = RightsBy(key, {false, false});
     chkDOW[day].SetVisible(rights.Visible);
-    chkDOW[day].SetEnabled(rights.Enabled);
+    chkDOW[day].SetAllowed(rights.Enabled);
     visibleDays += rights.Visible ? 1 : 0;
     enabledDays += rights.Enabled ? 1 : 0;
   }
   if (visibleDays == 0) fraDOW.SetVisible(false);
-  if (enabledDays == 0) fraDOW.SetEnabled(false);
+  if (enabledDays == 0) fraDOW.SetAllowed(false);
 
   if (vSkedData == nullptr) return;
   // Days that are no number fail the call: nothing may be shown that OK would store in their place.

@@ -79,7 +79,7 @@ std::int32_t frmZoneTypeBirch::Display(const Value& iZoneNum, const Value& iOrli
     LoadCaptions();
     Form.KeepSecurityLevels(SecurityLevels);
     FillZoneTypeList(iZoneNum, iOrlinRF, iZoneType);
-    if (!MayView(Form.SecurityLevels(), "Type")) cmbZoneType.SetEnabled(false);
+    if (!MayView(Form.SecurityLevels(), "Type")) cmbZoneType.SetAllowed(false);
   };
   steps.Encode = [&] { iZoneType = ZoneTypeValues.at(static_cast<std::size_t>(cmbZoneType.ListIndex())); };
   return RunDisplay(Form, steps);

@@ -3,6 +3,8 @@
 
 #include "OrlinCustomDialogs/platform/standard_platform.h"
 
+#include "OrlinCustomDialogs/host/form.h"
+
 #include "app/account/account.h"
 #include "app/calls/arguments.h"
 #include "app/calls/installed_platform.h"
@@ -58,9 +60,11 @@ class Explorer : public OperatorHost {
 
   void Look(const shown::Dialog& dialog) {
     ExpectFilled(dialog.Caption());
+    const auto form = FormOf(dialog);
     std::map<char32_t, const shown::Control*> owners;
     for (const auto* control : dialog.Controls()) {
       ExpectFilled(control->Caption());
+      ExpectFilled(form.HelpFor(*control));
       const auto* rows = control->AsRowList();
       for (int row = 0; rows != nullptr && row < rows->ListCount(); ++row) ExpectFilled(rows->List(row));
       const auto key = AccessKey(control->Caption());

@@ -239,7 +239,8 @@ class Control {
   [[nodiscard]] virtual Control* Names() const = 0;
   /// Of a value or a colour key, the label that tells what it is; else null.
   [[nodiscard]] virtual Control* ToldBy() const noexcept = 0;
-  /// What the dialog calls a control for people who do not see it, where that is more than caption and label tell.
+  /// What the dialog calls a control for people who do not see it, where that is more than caption and label tell. Of a
+  /// unit, what it means, which a host with room for it shows in its place.
   [[nodiscard]] virtual std::string SpokenName() const = 0;
 
   /// Moves the focus here.
@@ -267,6 +268,8 @@ class Control {
   /// What the dialog would refuse of what stands here now, in words for the operator; else empty. A host can tell it
   /// beside the control before the operator is through.
   [[nodiscard]] virtual std::string Objection() const { return {}; }
+  /// Whether the control is disabled because the operator's rights do not reach it; false also where nothing tells.
+  [[nodiscard]] virtual bool DeniedByRights() const noexcept { return false; }
 
  protected:
   ~Control() = default;

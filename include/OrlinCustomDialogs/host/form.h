@@ -43,6 +43,15 @@ struct Form {
   /// What a control is called by a screen reader: by its own caption, by what the dialog declares, by its label, by the
   /// frame that it stands in, else as the dialog. With the marks of access keys.
   [[nodiscard]] std::string NameOf(const shown::Control& control) const;
+
+  /// Whether a control is to be seen where it stands: a label of fields is while one of these is visible, everything
+  /// else while it is visible itself.
+  [[nodiscard]] bool Shows(const shown::Control& control) const;
+
+  /// What a control takes: its rows, its lowest and highest number, its unit; and, where the operator cannot change it,
+  /// why. One line in the operator's language, made anew with each call. Empty where there is nothing to tell, or the
+  /// catalogue does not have the texts.
+  [[nodiscard]] std::string HelpFor(const shown::Control& control) const;
 };
 
 [[nodiscard]] Form FormOf(const shown::Dialog& dialog);

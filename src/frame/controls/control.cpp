@@ -140,7 +140,13 @@ void Control::SetVisible(bool visible) {
 void Control::SetEnabled(bool enabled) {
   Touch();
   enabled_ = enabled;
+  if (enabled) denied_ = false;
   Changed();
+}
+
+void Control::SetAllowed(bool allowed) {
+  SetEnabled(allowed);
+  denied_ = !allowed;
 }
 
 void Control::SetLeft(int left) {

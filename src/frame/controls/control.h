@@ -82,11 +82,14 @@ class Control : public shown::Control {
   [[nodiscard]] shown::Control* ToldBy() const noexcept override { return nullptr; }
   [[nodiscard]] std::string SpokenName() const override { return spokenName_; }
   [[nodiscard]] std::string Objection() const override;
+  [[nodiscard]] bool DeniedByRights() const noexcept final { return denied_ && !enabled_; }
   Refusal Focus() final;
   Refusal Press() override;
 
   void SetVisible(bool visible);
   void SetEnabled(bool enabled);
+  /// Enables the control, or disables it for lack of a right, which a host can tell the operator.
+  void SetAllowed(bool allowed);
   void SetLeft(int left);
   void SetTop(int top);
   void SetWidth(int width);
@@ -154,6 +157,7 @@ class Control : public shown::Control {
   int index_;
   bool visible_;
   bool enabled_;
+  bool denied_ = false;  // counts while the control is disabled
   int left_;
   int top_;
   int width_;
@@ -173,6 +177,7 @@ class AnyControl {
   AnyControl(Control& control) : control_(&control) {}
   void SetVisible(bool visible) const { control_->SetVisible(visible); }
   void SetEnabled(bool enabled) const { control_->SetEnabled(enabled); }
+  void SetAllowed(bool allowed) const { control_->SetAllowed(allowed); }
 
  private:
   Control* control_;

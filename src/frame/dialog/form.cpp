@@ -218,4 +218,16 @@ std::string Form::NameOf(const Control& control) const {
   return frame != nullptr && !frame->Caption().empty() ? frame->Caption() : control.Form().Caption();
 }
 
+bool Form::Shows(const Control& control) const {
+  if (control.Kind() != ControlKind::Label || !control.Visible()) return control.Visible();
+  const auto frame = Frames.find(control.Parent());
+  const auto& rows = frame == Frames.end() ? Body : frame->second;
+  const auto row = std::find_if(rows.begin(), rows.end(), [&](const auto& known) { return known.Label == &control; });
+  if (row == rows.end() || row->Lines.empty() || !row->Lines.front().front()->TakesFocus()) return true;
+  return std::any_of(row->Lines.begin(), row->Lines.end(), [](const auto& line) {
+    return std::any_of(line.begin(), line.end(),
+                       [](const auto* part) { return part->TakesFocus() && part->Visible(); });
+  });
+}
+
 }  // namespace orlin

@@ -56,7 +56,7 @@ void ApplySecurityLevels(const SecurityLevels& levels, const std::vector<Secured
     const auto& authority = levels.Item(kAuthorityLevel);
     for (const auto& control : ControlsOf(record.Name, parts)) {
       if (authority.ViewLevel < record.ViewLevel) control.SetVisible(false);
-      if (authority.EditLevel < record.EditLevel) control.SetEnabled(false);
+      if (authority.EditLevel < record.EditLevel) control.SetAllowed(false);
     }
   }
 }
