@@ -1,5 +1,7 @@
 #include "qt/colours.h"
 
+#include <QCoreApplication>
+#include <QVariant>
 #include <algorithm>
 #include <cmath>
 
@@ -98,6 +100,21 @@ QPalette Outlined(QPalette palette) {
   const auto outline = Changed(window, FarFrom(window), enough);
   palette.setColor(QPalette::Window, outline.lighter(kDarkerOutline));
   return palette;
+}
+
+// Kept with the application, whose palette it is nearly always.
+WindowPalettes PalettesFor(const QPalette& given) {
+  constexpr const char* property = "OrlinWindowPalettes";
+  const auto known = qApp->property(property).toList();
+  if (known.size() == 3 && known[0].toLongLong() == given.cacheKey()) {
+    return {known[1].value<QPalette>(), known[2].value<QPalette>()};
+  }
+  WindowPalettes made{Legible(given), {}};
+  made.Inside = Outlined(made.Window);
+  // One that leaves nothing to be taken from elsewhere is shared by all widgets as it is.
+  for (auto* palette : {&made.Window, &made.Inside}) palette->setResolveMask(~QPalette::ResolveMask(0));
+  qApp->setProperty(property, QVariantList{given.cacheKey(), made.Window, made.Inside});
+  return made;
 }
 
 }  // namespace orlin

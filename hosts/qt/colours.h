@@ -26,6 +26,14 @@ inline constexpr double kMarkContrast = 3;
 /// the window and on that of a field. The style makes them out of the colour of windows, which is another one here.
 [[nodiscard]] QPalette Outlined(QPalette palette);
 
+/// Both, for windows whose palette would be `given`. They stay the same from window to window: styles keep what they have
+/// drawn, and find it again by the palette.
+struct WindowPalettes {
+  QPalette Window;
+  QPalette Inside;
+};
+[[nodiscard]] WindowPalettes PalettesFor(const QPalette& given);
+
 /// What the style makes of such a palette: the outlines of fields and of marks, and the marks.
 [[nodiscard]] QColor Outline(const QPalette& palette);
 [[nodiscard]] QColor MarkOutline(const QPalette& palette);

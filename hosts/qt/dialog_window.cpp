@@ -40,9 +40,10 @@ DialogWindow::DialogWindow(shown::Dialog& dialog, Timers timers, QWidget* parent
   setWindowModality(Qt::ApplicationModal);
   setFocusPolicy(Qt::StrongFocus);
   StandOver(*this, parent);
-  setPalette(Legible(palette()));
+  const auto palettes = PalettesFor(palette());
+  setPalette(palettes.Window);
   body_ = new QWidget(this);
-  body_->setPalette(Outlined(palette()));
+  body_->setPalette(palettes.Inside);
   MakeViews(*body_);
   Present();
   const auto remarkOf = [this](const auto& control) {
