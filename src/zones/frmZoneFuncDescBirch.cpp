@@ -1,7 +1,7 @@
 #include "zones/frmZoneFuncDescBirch.h"
 
-#include <algorithm>
-#include <array>
+#include <utility>
+#include <vector>
 
 #include "frame/controls/fill_list.h"
 #include "frame/dialog/display_protocol.h"
@@ -65,9 +65,11 @@ void frmZoneFuncDescBirch::cmbZoneFunc_Click() {
 void frmZoneFuncDescBirch::GetFunctionDescKeyFob(const std::string& text, std::int16_t& result) {
   result = 0;
   ReportFailure(kKeyFobFault, [&] {
-    std::array<std::string, kVerifiedTypes.size()> names;
-    std::transform(kVerifiedTypes.begin(), kVerifiedTypes.end(), names.begin(),
-                   [](std::int16_t number) { return GetLocalText(number); });
+    // The host wrote the descriptions, in a language that need not be the operator's.
+    std::vector<std::string> names;
+    for (const auto number : kVerifiedTypes) {
+      for (auto& name : GetLocalTextInAllLanguages(number)) names.push_back(std::move(name));
+    }
     for (const auto& name : names) {
       if (text.find(name) != std::string::npos) result = 1;
     }

@@ -1,3 +1,4 @@
+#include "catalogue/languages.h"
 #include "zones/zone_fixture.h"
 
 namespace orlin::testing {
@@ -60,6 +61,7 @@ TEST(BirchDescription, NameOfATypeAnywhereInTheDescriptionAllowsVerification) {
   };
   for (std::int16_t type = 1723; type <= 1730; ++type) {
     EXPECT_EQ(allows("x" + Text(type) + "y"), true) << Text(type);
+    EXPECT_EQ(allows(std::string(LanguageOf("de").Find(type))), true) << Text(type) << " in another language";
     EXPECT_EQ(allows("x" + Text(type).substr(1)), false) << Text(type) << " with another first letter";
   }
   EXPECT_EQ(allows(Text(1731)), false);

@@ -1,6 +1,7 @@
 #include "frame/services/modGeneral.h"
 
 #include <string>
+#include <vector>
 
 #include "OrlinCustomDialogs/version.h"
 
@@ -62,6 +63,14 @@ std::string GetLocalText(int id) {
     ReportFault(kGetLocalTextFault, failure, "");
     return {};
   }
+}
+
+std::vector<std::string> GetLocalTextInAllLanguages(std::int16_t id) {
+  std::vector<std::string> texts{GetLocalText(id)};
+  if (Services().Catalogue == nullptr) return texts;
+  const auto others = Services().Catalogue->GetOtherLanguagesBASE(id);
+  texts.insert(texts.end(), others.begin(), others.end());
+  return texts;
 }
 
 std::string GetLocalText(int id, const std::string& sName, const std::string& sValue) {
