@@ -3,6 +3,8 @@
 #include <utility>
 #include <vector>
 
+#include "OrlinCustomDialogs/host/texts.h"
+
 #include "frame/controls/fill_list.h"
 #include "frame/dialog/display_protocol.h"
 #include "frame/services/modGeneral.h"
@@ -46,7 +48,8 @@ std::int32_t frmZoneFuncDescBirch::Display(const Value& vName, Value& vRetVal, V
       ChkAlarmVerified.SetValue(iZoneAlarmVerify == 0 ? 0 : 1);
     }
     ApplySecurityLevels(Form.SecurityLevels(), {{kEveryRecord, {lblZoneFuncDesc, cmbZoneFunc}}});
-    Form.SetCaption("Edit " + ToText(vName));
+    const auto name = ToText(vName);
+    Form.SetCaption("Edit " + name, ReplaceVariable(CatalogueText(1192, "Edit %ITEM%"), "ITEM", name));
   };
   steps.Encode = [&] {
     iFunction = cmbZoneFunc.ListIndex();

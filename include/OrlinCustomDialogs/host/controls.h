@@ -268,6 +268,12 @@ class Control {
   /// beside the control before the operator is through.
   [[nodiscard]] virtual std::string Objection() const { return {}; }
 
+  /// A text of this control, its caption, a row, a cell or what a box holds, as people read it: what the dialog keeps
+  /// in English, whatever the language, is translated, and all else is given back as it is. For eyes and ears alone:
+  /// scripts and stored values have the text itself.
+  [[nodiscard]] virtual std::string Translated(const std::string& text) const = 0;
+  [[nodiscard]] std::string TranslatedCaption() const { return Translated(Caption()); }
+
  protected:
   ~Control() = default;
 };
@@ -311,6 +317,9 @@ class Dialog {
 
   /// The close box.
   virtual void Close() = 0;
+
+  /// The caption as people read it (see `Control::Translated`).
+  [[nodiscard]] virtual std::string TranslatedCaption() const = 0;
 
  protected:
   ~Dialog() = default;
