@@ -11,7 +11,7 @@
 namespace orlin {
 
 int Describe(DescribeOptions options, std::ostream& out) {
-  Describer describer(std::move(options.Platform));
+  Describer describer(std::move(options.Platform), options.Json ? Wording::Fixed : Wording::Translated);
   int result = status::Done;
   const auto describe = [&](const PublicClass& publicClass, std::vector<Value> values, ValueForm form,
                             const std::optional<std::string>& name) {

@@ -12,14 +12,16 @@ namespace orlin {
 /// Shows dialogs to nobody: keeps what they tell as they come up, and closes them.
 class Describer::Host final : public DialogHost {
  public:
+  explicit Host(Wording wording) : wording_(wording) {}
+
   [[nodiscard]] SizeInTwips Screen() const override { return {}; }  // places are not told
 
   void ShowModal(shown::Dialog& dialog) override {
     dialog.Activate();
     if (!IsDescribed()) {
       description_.Dialog = dialog.Name();
-      description_.Title = dialog.Caption();
-      description_.Controls = Tell(dialog);
+      description_.Title = wording_ == Wording::Translated ? dialog.TranslatedCaption() : dialog.Caption();
+      description_.Controls = Tell(dialog, wording_);
     }
     dialog.Close();
   }
@@ -63,6 +65,7 @@ class Describer::Host final : public DialogHost {
     if (!IsDescribed()) description_.Notes.push_back(std::move(note));
   }
 
+  Wording wording_;
   Description description_;
 };
 
@@ -73,8 +76,8 @@ Platform Describer::PlatformFor(const std::shared_ptr<Host>& host, StandardPlatf
   return StandardPlatform(options);
 }
 
-Describer::Describer(StandardPlatformOptions platform)
-    : host_(std::make_shared<Host>()), installed_(PlatformFor(host_, std::move(platform))) {}
+Describer::Describer(StandardPlatformOptions platform, Wording wording)
+    : host_(std::make_shared<Host>(wording)), installed_(PlatformFor(host_, std::move(platform))) {}
 
 Description Describer::Describe(const PublicClass& publicClass, std::vector<Value> values, ValueForm form) {
   const auto failure = Call(publicClass, std::move(values), form).Failure();

@@ -17,7 +17,7 @@ namespace orlin {
 class Describer {
  public:
   /// Faults are recorded only where the platform names a file. `PlatformError` for one that makes no sense.
-  explicit Describer(StandardPlatformOptions platform);
+  explicit Describer(StandardPlatformOptions platform, Wording wording = Wording::Translated);
 
   /// Opens nothing for anybody, and changes nothing.
   [[nodiscard]] Description Describe(const PublicClass& publicClass, std::vector<Value> values, ValueForm form);

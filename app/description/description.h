@@ -81,7 +81,13 @@ struct Description {
   bool Failed = false;  ///< the call ended with a failure
 };
 
+/// The words for what a dialog keeps in English, whatever the language.
+enum class Wording {
+  Translated,  ///< for people
+  Fixed,       ///< as the dialog has them, for programs
+};
+
 /// The controls of a dialog that can be seen. Buttons, timers and what only helps the operator on are left out.
-[[nodiscard]] std::vector<ToldControl> Tell(const shown::Dialog& dialog);
+[[nodiscard]] std::vector<ToldControl> Tell(const shown::Dialog& dialog, Wording wording);
 
 }  // namespace orlin

@@ -37,6 +37,7 @@ bool MayBeLost(QWidget& window) {
   box.setText(question.isEmpty() ? window.windowTitle() : question);
   box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
   box.setDefaultButton(QMessageBox::No);
+  LabelButtons(box);
   return box.exec() == QMessageBox::Yes;
 }
 

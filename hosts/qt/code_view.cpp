@@ -1,6 +1,7 @@
 #include "qt/code_view.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -37,6 +38,10 @@ class CodeLine final : public QLineEdit {
     onFocus_();
   }
   void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+  void contextMenuEvent(QContextMenuEvent* event) override {
+    PopUpMenu(*this, {event->globalPos(), hasSelectedText(), isReadOnly()},
+              {[this] { cut(); }, [this] { copy(); }, [this] { paste(); }, [this] { selectAll(); }});
+  }
 
  private:
   std::function<void()> onFocus_;
@@ -123,7 +128,7 @@ void CodeView::Present() {
     field_->setMaxLength(length);
     field_->updateGeometry();
   }
-  if (const auto* label = Its().ToldBy()) field_->setAccessibleName(SpokenCaption(label->Caption()));
+  if (const auto* label = Its().ToldBy()) field_->setAccessibleName(SpokenCaption(label->TranslatedCaption()));
   ShowText();
 }
 

@@ -66,7 +66,7 @@ void DialogWindow::WidenCaptions() {
   if (room <= CaptionWidth(*this)) return;
   setProperty(kCaptionWidth, room);
   for (const auto& view : views_) {
-    const auto length = static_cast<int>(view->Control().Caption().size());
+    const auto length = static_cast<int>(view->Control().TranslatedCaption().size());
     const bool isBroken = length * fontMetrics().averageCharWidth() > room / 2;
     if (view->Control().Parent() == nullptr && isBroken) view->Present();
   }
@@ -175,7 +175,7 @@ void DialogWindow::Present() {
   bool different = revision_ != dialog_.Revision();
   if (different) {
     revision_ = dialog_.Revision();
-    setWindowTitle(Shown(dialog_.Caption()));
+    setWindowTitle(Shown(dialog_.TranslatedCaption()));
   }
   for (const auto& view : views_) different = view->Update(form_.Shows(view->Control())) || different;
   if (different) PresentNames();

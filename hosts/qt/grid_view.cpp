@@ -40,7 +40,7 @@ std::map<std::int32_t, Meaning> MeaningsIn(const shown::Dialog& dialog) {
   std::map<std::int32_t, Meaning> meanings;
   for (const auto* key : dialog.Controls()) {
     if (key->Role() != shown::LabelRole::ColourKey || !key->BackColor() || key->ToldBy() == nullptr) continue;
-    meanings[*key->BackColor()] = {SignOf(*key), SpokenCaption(key->ToldBy()->Caption())};
+    meanings[*key->BackColor()] = {SignOf(*key), SpokenCaption(key->ToldBy()->TranslatedCaption())};
   }
   return meanings;
 }
@@ -67,9 +67,10 @@ class CellModel final : public QAbstractTableModel {
       cells.resize(static_cast<std::size_t>(cols_));
       for (int col = 0; col < cols_; ++col) {
         auto& mine = cells[static_cast<std::size_t>(col)];
-        const auto& now = grid_.CellAt(row, col);
+        auto now = grid_.CellAt(row, col);
+        now.Text = control_.Translated(now.Text);
         if (mine.Text == now.Text && mine.Color == now.Color && mine.Bold == now.Bold) continue;
-        mine = now;
+        mine = std::move(now);
         different = true;
       }
     }

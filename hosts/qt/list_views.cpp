@@ -36,7 +36,7 @@ class DropDown final : public QComboBox {
 
   // The rows stand in Qt's own model: for another one Qt makes the drop-down list at once, which costs more than all
   // the rest of a small dialog.
-  void Take(const shown::RowList& list) {
+  void Take(const shown::Control& list) {
     if (texts_.AreThoseOf(list)) return;
     texts_.Take(list);
     QList<QStandardItem*> items;
@@ -121,7 +121,7 @@ class ComboBoxView final : public ViewOf<shown::RowList> {
   [[nodiscard]] bool IsListOpen() const override { return list_->IsOpen(); }
 
   void Present() override {
-    list_->Take(Its());
+    list_->Take(Control());
     list_->ShowRow(Its().ListIndex());
     list_->updateGeometry();
     if (field_ == nullptr) return;
@@ -218,7 +218,7 @@ class ListBoxView final : public ViewOf<shown::RowList> {
   [[nodiscard]] QWidget* Widget() const override { return rows_; }
 
   void Present() override {
-    rows_->Rows().Take(Its());
+    rows_->Rows().Take(Control());
     rows_->updateGeometry();
     const auto current = rows_->Rows().index(Its().ListIndex());
     rows_->selectionModel()->setCurrentIndex(current, QItemSelectionModel::ClearAndSelect);

@@ -6,7 +6,6 @@
 #include <QInputMethod>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
@@ -18,6 +17,7 @@
 #include <string>
 #include <utility>
 
+#include "qt/local_text.h"
 #include "qt/texts.h"
 
 namespace orlin {
@@ -182,16 +182,8 @@ class PassiveEdit : public Field, public Composing {
     Mark(CharactersBefore(source_, static_cast<int>(from)), CharactersBefore(source_, static_cast<int>(to)));
   }
   void contextMenuEvent(QContextMenuEvent* event) override {
-    // Not one that is waited for: the dialog may end while it is open.
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    const bool marked = length_ > 0;
-    menu->addAction(QObject::tr("Cu&t"), this, [this] { Cut(); })->setEnabled(marked && !Field::isReadOnly());
-    menu->addAction(QObject::tr("&Copy"), this, [this] { Copy(); })->setEnabled(marked);
-    menu->addAction(QObject::tr("&Paste"), this, [this] { Paste(); })->setEnabled(!Field::isReadOnly());
-    menu->addSeparator();
-    menu->addAction(QObject::tr("Select &All"), this, [this] { Actions.SetCaret(0, Length()); });
-    menu->popup(event->globalPos());
+    PopUpMenu(*this, {event->globalPos(), length_ > 0, Field::isReadOnly()},
+              {[this] { Cut(); }, [this] { Copy(); }, [this] { Paste(); }, [this] { Actions.SetCaret(0, Length()); }});
   }
   // What is being composed stands in the field alone; the control gets what is committed.
   void inputMethodEvent(QInputMethodEvent* event) override {

@@ -6,6 +6,7 @@
 #include <QScreen>
 
 #include "qt/dialog_window.h"
+#include "qt/local_text.h"
 #include "qt/stand_over.h"
 #include "qt/texts.h"
 
@@ -99,6 +100,7 @@ int QtHost::ShowMessage(const Message& message) {
   box.setText(Shown(message.Text));
   box.setWindowTitle(message.Title ? Shown(*message.Title) : QGuiApplication::applicationDisplayName());
   box.setStandardButtons(ButtonsOf(message.Flags));
+  LabelButtons(box);
   const bool asks = (message.Flags & kButtonsMask) != Message::OkOnly;
   const bool warns = (message.Flags & Message::Warning) == Message::Warning;
   box.setIcon(warns ? QMessageBox::Warning : asks ? QMessageBox::Question : QMessageBox::Information);

@@ -34,16 +34,20 @@ int WidthOfLongest(const std::vector<const std::string*>& texts, const QFontMetr
   return static_cast<int>(std::ceil(widest));
 }
 
-bool RowTexts::AreThoseOf(const shown::RowList& list) const {
-  const auto count = static_cast<std::size_t>(list.ListCount());
+bool RowTexts::AreThoseOf(const shown::Control& list) const {
+  const auto& rows = *list.AsRowList();
+  const auto count = static_cast<std::size_t>(rows.ListCount());
   bool same = count == rows_.size();
-  for (std::size_t row = 0; same && row < count; ++row) same = rows_[row] == list.List(static_cast<int>(row));
+  for (std::size_t row = 0; same && row < count; ++row) {
+    same = rows_[row] == list.Translated(rows.List(static_cast<int>(row)));
+  }
   return same;
 }
 
-void RowTexts::Take(const shown::RowList& list) {
+void RowTexts::Take(const shown::Control& list) {
+  const auto& rows = *list.AsRowList();
   rows_.clear();
-  for (int row = 0; row < list.ListCount(); ++row) rows_.push_back(list.List(row));
+  for (int row = 0; row < rows.ListCount(); ++row) rows_.push_back(list.Translated(rows.List(row)));
   width_ = -1;
 }
 
@@ -56,16 +60,17 @@ int RowTexts::Width(const QFont& font) const {
   return width_ = WidthOfLongest(texts, QFontMetrics(font));
 }
 
-void RowModel::Take(const shown::RowList& list) {
+void RowModel::Take(const shown::Control& list) {
+  const auto& rows = *list.AsRowList();
   if (!texts_.AreThoseOf(list)) {
     beginResetModel();
     texts_.Take(list);
     checked_.assign(texts_.Rows().size(), false);
     endResetModel();
   }
-  hasChecks_ = list.Choice() != shown::Choice::One;
+  hasChecks_ = rows.Choice() != shown::Choice::One;
   if (!hasChecks_ || rowCount() == 0) return;
-  for (int row = 0; row < rowCount(); ++row) checked_[static_cast<std::size_t>(row)] = list.Selected(row);
+  for (int row = 0; row < rowCount(); ++row) checked_[static_cast<std::size_t>(row)] = rows.Selected(row);
   emit dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
 }
 

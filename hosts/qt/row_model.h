@@ -9,11 +9,11 @@
 
 namespace orlin {
 
-/// The texts of a list as they were when the window was last brought up to date.
+/// The texts of a list, as people read them, as they were when the window was last brought up to date.
 class RowTexts {
  public:
-  [[nodiscard]] bool AreThoseOf(const shown::RowList& list) const;
-  void Take(const shown::RowList& list);
+  [[nodiscard]] bool AreThoseOf(const shown::Control& list) const;
+  void Take(const shown::Control& list);
 
   [[nodiscard]] const std::vector<std::string>& Rows() const noexcept { return rows_; }
   /// The width of the longest row in that font.
@@ -31,7 +31,7 @@ class RowModel final : public QAbstractListModel {
   explicit RowModel(QObject* parent) : QAbstractListModel(parent) {}
 
   /// Takes the rows over, with their check marks where they have some.
-  void Take(const shown::RowList& list);
+  void Take(const shown::Control& list);
 
   [[nodiscard]] int Width(const QFont& font) const { return texts_.Width(font); }
 

@@ -16,8 +16,10 @@
 #include <algorithm>
 
 #include "OrlinCustomDialogs/host/keys.h"
+#include "OrlinCustomDialogs/host/texts.h"
 
 #include "qt/colours.h"
+#include "qt/local_text.h"
 #include "qt/mark_style.h"
 #include "qt/texts.h"
 #include "qt/views.h"
@@ -50,7 +52,8 @@ class LabelView final : public ViewOf<shown::Control> {
   [[nodiscard]] QWidget* Widget() const override { return label_; }
   void Present() override {
     // Only the label of a field shows its access key, and only there does "&&" mean "&".
-    auto caption = label_->buddy() != nullptr ? Its().Caption() : PlainCaption(Its().Caption());
+    const auto read = Its().TranslatedCaption();
+    auto caption = label_->buddy() != nullptr ? read : PlainCaption(read);
     if (auto meaning = Its().SpokenName(); !meaning.empty()) caption = std::move(meaning);
     label_->setText(Wrapped(Shown(caption), label_->fontMetrics(), CaptionWidth(*label_)));
     if (Its().Role() == shown::LabelRole::ColourKey) ShowSign();
@@ -58,7 +61,7 @@ class LabelView final : public ViewOf<shown::Control> {
     auto palette = label_->palette();
     auto ground = ColourOf(*Its().BackColor(), palette);
     // A key of colours shows them as they are shown where they are used.
-    if (Its().Caption().empty()) ground = Readable(ground, palette.color(QPalette::Base));
+    if (caption.empty()) ground = Readable(ground, palette.color(QPalette::Base));
     palette.setColor(QPalette::Window, ground);
     palette.setColor(QPalette::WindowText, Readable(palette.color(QPalette::WindowText), ground));
     label_->setPalette(palette);
@@ -105,9 +108,10 @@ class FrameView final : public ViewOf<shown::Control> {
   FrameView(shown::Control& frame, Desk& desk, QWidget* parent) : ViewOf(frame, frame, desk), box_(new Box(parent)) {}
   [[nodiscard]] QWidget* Widget() const override { return box_; }
   void Present() override {
-    box_->setTitle(Shown(Its().Caption()));
-    box_->setFlat(Its().Caption().empty());
-    box_->setAccessibleName(SpokenCaption(Its().Caption()));
+    const auto caption = Its().TranslatedCaption();
+    box_->setTitle(Shown(caption));
+    box_->setFlat(caption.empty());
+    box_->setAccessibleName(SpokenCaption(caption));
   }
 
  private:
@@ -136,7 +140,7 @@ class PressView : public ViewOf<shown::Control> {
   }
   [[nodiscard]] QWidget* Widget() const override { return button_; }
   void Present() override {
-    const auto& caption = Its().Caption();
+    const auto caption = Its().TranslatedCaption();
     const auto text = Wrapped(orlin::Shown(caption), button_->fontMetrics(), CaptionWidth(*button_));
     button_->setText(text);
     // Of a caption in one line Qt makes the name itself.
@@ -182,19 +186,19 @@ class UpDownView final : public ViewOf<shown::Stepper> {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     const int height = FieldHeight(*pair_);
-    Add(shown::Direction::Up, Qt::UpArrow, QObject::tr("Up"), height - height / 2);
-    Add(shown::Direction::Down, Qt::DownArrow, QObject::tr("Down"), height / 2);
+    Add(shown::Direction::Up, Qt::UpArrow, texts::Up, "Up", height - height / 2);
+    Add(shown::Direction::Down, Qt::DownArrow, texts::Down, "Down", height / 2);
   }
   [[nodiscard]] QWidget* Widget() const override { return pair_; }
   void Present() override {}
 
  private:
-  void Add(shown::Direction direction, Qt::ArrowType arrow, const QString& name, int height) {
+  void Add(shown::Direction direction, Qt::ArrowType arrow, std::int16_t name, const char* inEnglish, int height) {
     auto* button = new QToolButton(pair_);
     button->setArrowType(arrow);
     button->setFocusPolicy(Qt::NoFocus);
     button->setAutoRepeat(true);
-    button->setAccessibleName(name);
+    button->setAccessibleName(LocalText(name, inEnglish));
     button->setFixedSize(height * 2, height);
     pair_->layout()->addWidget(button);
     QObject::connect(button, &QToolButton::clicked, pair_,

@@ -60,7 +60,7 @@ class TextBoxView final : public ViewOf<shown::TextField> {
     }
     if (field_->isReadOnly() != Its().Locked()) field_->setReadOnly(Its().Locked());
     ShowGround(*field_, Control());
-    field_->ShowState({Its().Text(), Its().SelStart(), Its().SelLength()});
+    field_->ShowState({Control().Translated(Its().Text()), Its().SelStart(), Its().SelLength()});
   }
 
  private:

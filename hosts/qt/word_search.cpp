@@ -34,6 +34,12 @@ shown::RowList* ListWithKeyboard(const shown::Dialog& dialog) {
   return list != nullptr && list->Choice() == shown::Choice::One ? list : nullptr;
 }
 
+/// A row of the list that has the keyboard, as people read it.
+QString RowOf(const shown::Dialog& dialog, int row) {
+  const auto& focused = *dialog.FocusedControl();
+  return Shown(focused.Translated(focused.AsRowList()->List(row)));
+}
+
 bool HasEditField(const shown::Dialog& dialog) {
   const auto* field = dialog.FocusedControl()->AsTextField();
   return field != nullptr && field->HasEditField();
@@ -60,7 +66,7 @@ void WordSearch::Press(const Key& key, bool inOpenList) {
   desk_.Press(key, dialog_);
   if (!dialog_.IsShown() || ListWithKeyboard(dialog_) != list) return Pause();
   typed_ += character;
-  if (BeginsWith(Shown(list->List(list->ListIndex())), typed_)) return;
+  if (BeginsWith(RowOf(dialog_, list->ListIndex()), typed_)) return;
   // The list has found nothing, and begins anew.
   finds_ = Pick(*list, typed_);
   if (!finds_) Pause();
@@ -73,7 +79,7 @@ bool WordSearch::Pick(shown::RowList& list, const QString& typed) {
   for (const auto fits : {BeginsWith, HasWord}) {
     for (int i = 0; i < count && !typed.trimmed().isEmpty(); ++i) {
       const int row = (first + i) % count;
-      if (!fits(Shown(list.List(row)), typed)) continue;
+      if (!fits(RowOf(dialog_, row), typed)) continue;
       desk_.Do([&] { return list.PickRow(row); });
       typed_ = typed;
       return true;

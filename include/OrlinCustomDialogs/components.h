@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "OrlinCustomDialogs/value.h"
 
@@ -17,6 +18,13 @@ class LocalTextComponent : public Object {
  public:
   /// The text with that number, in UTF-8, or an empty text.
   virtual std::string GetLocalTextBASE(std::int16_t id) = 0;
+
+  /// The text with that number in the languages that the catalogue knows beside the one that it speaks. What a host
+  /// hands over may be written in any of them.
+  virtual std::vector<std::string> GetOtherLanguagesBASE(std::int16_t id) {
+    static_cast<void>(id);
+    return {};
+  }
 };
 
 /// One failure as it is handed to the fault log.

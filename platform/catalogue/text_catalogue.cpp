@@ -15,4 +15,14 @@ std::string TextCatalogue::GetLocalTextBASE(std::int16_t id) {
   return std::string(text.empty() ? LanguageOf("en").Find(id) : text);
 }
 
+std::vector<std::string> TextCatalogue::GetOtherLanguagesBASE(std::int16_t id) {
+  std::vector<std::string> texts;
+  if (replacements_ != nullptr && replacements_->contains(id)) return texts;
+  for (const auto& language : Languages()) {
+    const auto text = language.Find(id);
+    if (language.Name != language_.Name && !text.empty()) texts.emplace_back(text);
+  }
+  return texts;
+}
+
 }  // namespace orlin

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "OrlinCustomDialogs/components.h"
 
@@ -18,6 +20,8 @@ class TextCatalogue : public LocalTextComponent {
                          const Language& language = LanguageOf("en"));
 
   std::string GetLocalTextBASE(std::int16_t id) override;
+  /// None for a text of the file, which replaces that of every language.
+  std::vector<std::string> GetOtherLanguagesBASE(std::int16_t id) override;
 
  private:
   std::shared_ptr<const TextTable> replacements_;

@@ -18,15 +18,15 @@ class frmAltCommConfiguration {
   void FillPrintLists();
   void cmbMode_Click();
 
-  Dialog Form{"frmAltCommConfiguration", "AltCommConfiguration", kUsualLife};
+  Dialog Form{"frmAltCommConfiguration", {"AltCommConfiguration", 20011}, kUsualLife};
 
-  Label lblMode{Form, "lblMode", "&Mode:"};
+  Label lblMode{Form, "lblMode", {"&Mode:", 20012}};
   ComboBox cmbMode{Form, "cmbMode"};
-  Label lblAlarm{Form, "lblAlarm", "&Print Alarms And Trouble:"};
+  Label lblAlarm{Form, "lblAlarm", {"&Print Alarms And Trouble:", 20013}};
   ComboBox cmbAlarm{Form, "cmbAlarm"};
-  Label lblOpensCloses{Form, "lblOpensCloses", "Print Opens And Closes:"};
+  Label lblOpensCloses{Form, "lblOpensCloses", {"Print Opens And Closes:", 20014}};
   ComboBox cmbOpensCloses{Form, "cmbOpensCloses"};
-  Label lblPrintAll{Form, "lblPrintAll", "Print All Other Events:"};
+  Label lblPrintAll{Form, "lblPrintAll", {"Print All Other Events:", 20015}};
   ComboBox cmbAll{Form, "cmbAll"};
   OKButton cmdOK{Form};
   CancelButton cmdCancel{Form};

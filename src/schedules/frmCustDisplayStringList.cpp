@@ -12,13 +12,13 @@ constexpr std::int16_t kDisabled = 0;
 constexpr std::int16_t kMidnight = 48;
 constexpr std::int32_t kIndexOutOfRange = 2;
 
-std::string Line(std::int16_t position) {
-  if (position == kDisabled) return "DISABLED";
-  if (position == kMidnight) return "MIDNIGHT";
+}  // namespace
+
+std::string frmCustDisplayStringList::Line(std::int16_t position) {
+  if (position == kDisabled) return std::string(kFixedLines.front().Text);
+  if (position == kMidnight) return std::string(kFixedLines.back().Text);
   return TwoDigits(position / 2) + (position % 2 == 0 ? ":00" : ":30");
 }
-
-}  // namespace
 
 frmCustDisplayStringList::frmCustDisplayStringList() {
   List1.Click = [this] { List1_Click(); };

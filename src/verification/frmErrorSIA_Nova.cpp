@@ -136,9 +136,10 @@ std::string frmErrorSIA_Nova::RowText(std::int32_t index) {
   presentValue = ShownPresentValue(SiaParameters()[row], presentValue);
   const auto area = AreaOf(SiaParameters()[row], itemNo);
   const auto& parameter = parameters_[row];
-  return parameter.ParameterName + "\t" + (area == 0 ? "N/A" : std::to_string(area)) + "\t" + ToText(presentValue) +
-         "\t" + ToText(parameter.SIARangeMin) + "\t" + ToText(parameter.SIARangeMax) + ToText(parameter.AllowedString) +
-         "\t" + ToText(parameter.DefaultVal);
+  const auto areaText = area == 0 ? std::string(kWithoutArea) : std::to_string(area);
+  return parameter.ParameterName + "\t" + areaText + "\t" + ToText(presentValue) + "\t" +
+         ToText(parameter.SIARangeMin) + "\t" + ToText(parameter.SIARangeMax) + ToText(parameter.AllowedString) + "\t" +
+         ToText(parameter.DefaultVal);
 }
 
 void frmErrorSIA_Nova::StoreDesiredValues(Array& values) {

@@ -46,13 +46,14 @@ class frmErrorSIA_Nova {
 
   Label lblUserWarning{Form, "lblUserWarning", 10683, Label::Text};
   Frame grpErrorDetails{Form, "grpErrorDetails", 10682};
-  Grid vsFlexArray1{grpErrorDetails,
-                    "vsFlexArray1",
-                    {.Rows = 50, .Cols = 6, .FixedRows = 1, .FixedCols = 5, .Common = {.Width = 11000}}};
+  Grid vsFlexArray1{
+      grpErrorDetails,
+      "vsFlexArray1",
+      {.Rows = 50, .Cols = 6, .FixedRows = 1, .FixedCols = 5, .Common = {.Width = 11000, .Fixed = kFixedCells}}};
   OptionButton OptIgnore{Form, "OptIgnore", 10684, {.Value = true}};
   OptionButton OptAccept{Form, "OptAccept", 10685};
   Button btnAcceptChanges{Form, "btnAcceptChanges", 10680};
-  Button btnCancel{Form, "btnCancel", "Cancel"};
+  Button btnCancel{Form, "btnCancel", {"Cancel", 119}};
 
   // The kinds of parameter, each at its row of the table; the first record stays empty.
   std::array<clsErrorMessageNova, kSiaRows> parameters_;

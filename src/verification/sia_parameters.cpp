@@ -20,7 +20,6 @@ constexpr std::string_view kUnset = "-";
 constexpr MaximumOfPanel kPanelMax{};
 
 constexpr std::string_view kNone;
-constexpr std::string_view kByFives = " (Increments of 5 only)";
 constexpr std::string_view kDigits = "1234567890";
 
 constexpr std::optional<SiaArea> kNoArea;

@@ -9,6 +9,8 @@
 
 #include "OrlinCustomDialogs/value.h"
 
+#include "frame/controls/control.h"
+
 // The kinds of parameter that the SIA CP-01 review knows, and the rules that go with their table.
 
 namespace orlin {
@@ -50,6 +52,11 @@ struct SiaParameter {
   SiaPresentValue PresentValue;
   SiaFormat Format = SiaFormat::Any;
 };
+
+/// What stands in cells in English, whatever the language: in place of an area, and behind a maximum.
+inline constexpr std::string_view kWithoutArea = "N/A";
+inline constexpr std::string_view kByFives = " (Increments of 5 only)";
+inline constexpr std::array<FixedText, 2> kFixedCells = {{{kWithoutArea, 20016}, {kByFives.substr(1), 20017}}};
 
 inline constexpr std::size_t kSiaRows = 17;
 /// The rows 1 to 16; the row 0 is that of no parameter.

@@ -1,7 +1,9 @@
 #include "zones/frmZoneFuncDescBirch.h"
 
-#include <algorithm>
-#include <array>
+#include <utility>
+#include <vector>
+
+#include "OrlinCustomDialogs/host/texts.h"
 
 #include "frame/controls/fill_list.h"
 #include "frame/dialog/display_protocol.h"
@@ -46,7 +48,8 @@ std::int32_t frmZoneFuncDescBirch::Display(const Value& vName, Value& vRetVal, V
       ChkAlarmVerified.SetValue(iZoneAlarmVerify == 0 ? 0 : 1);
     }
     ApplySecurityLevels(Form.SecurityLevels(), {{kEveryRecord, {lblZoneFuncDesc, cmbZoneFunc}}});
-    Form.SetCaption("Edit " + ToText(vName));
+    const auto name = ToText(vName);
+    Form.SetCaption("Edit " + name, ReplaceVariable(CatalogueText(1192, "Edit %ITEM%"), "ITEM", name));
   };
   steps.Encode = [&] {
     iFunction = cmbZoneFunc.ListIndex();
@@ -65,9 +68,11 @@ void frmZoneFuncDescBirch::cmbZoneFunc_Click() {
 void frmZoneFuncDescBirch::GetFunctionDescKeyFob(const std::string& text, std::int16_t& result) {
   result = 0;
   ReportFailure(kKeyFobFault, [&] {
-    std::array<std::string, kVerifiedTypes.size()> names;
-    std::transform(kVerifiedTypes.begin(), kVerifiedTypes.end(), names.begin(),
-                   [](std::int16_t number) { return GetLocalText(number); });
+    // The host wrote the descriptions, in a language that need not be the operator's.
+    std::vector<std::string> names;
+    for (const auto number : kVerifiedTypes) {
+      for (auto& name : GetLocalTextInAllLanguages(number)) names.push_back(std::move(name));
+    }
     for (const auto& name : names) {
       if (text.find(name) != std::string::npos) result = 1;
     }

@@ -23,7 +23,7 @@ class frmZoneTypeBirch {
 
   Label Label1{Form, "Label1"};
   ComboBox cmbZoneType{Form, "cmbZoneType"};
-  OKButton cmdOK{Form, "&OK"};
+  OKButton cmdOK{Form, {"&OK", 20009}};
   // A plain button: Escape does not press it.
   Button cmdCancel{Form, "cmdCancel"};
 

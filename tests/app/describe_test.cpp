@@ -102,8 +102,25 @@ TEST(DescribeText, TellsMessagesAndWhereAFailureArose) {
   EXPECT_EQ(notes.at(1).at("title"), "Tolmar");
 }
 
+TEST(DescribeText, SpeaksTheLanguageOfItsPlatform) {
+  // Also where the dialog itself keeps a text in English: titles, labels, units, marks, rows, texts of boxes, cells.
+  const std::pair<const char*, std::vector<const char*>> cases[] = {
+      {"clsZoneFunctionsWillow ZoneNum=5", {"Zonenfunktion\n"}},
+      {"clsPanelGMT iHrs=5",
+       {"Zeit der Zentrale\n  Stunden gegenüber GMT (UTC)\n", "Abweichung der Zentrale von GMT:  5 Std. 0 Min.\n",
+        "[ ] Sommerzeit\n"}},
+      {"clsLstTime_Rowan Index=48", {"Zeit:  MITTERNACHT\n  Wert:  MITTERNACHT\n"}},
+      {"clsZoneFuncDescBirch vName=Zone vRetVal=[0] iFunction=0", {"Zone bearbeiten\n"}},
+      {"clsErrorMessageNova vItemNo=[22] vValue=[3]", {"entfällt       3", "240 (nur in Fünferschritten)"}}};
+  for (const auto& [call, words] : cases) {
+    const auto told = RunHost(std::string("describe --language de_DE.UTF-8 ") + call).Out;
+    for (const auto* word : words) EXPECT_NE(told.find(word), std::string::npos) << word << " in\n" << told;
+  }
+}
+
 TEST(DescribeJson, TellsEveryControl) {
-  const auto out = Described("--json clsPanelGMT iHrs=5").Out;
+  // Fixed texts are the same for programs in every language.
+  const auto out = RunHost("describe --language de --json clsPanelGMT iHrs=5").Out;
   EXPECT_TRUE(out.starts_with(
       R"j({"class":"clsPanelGMT","dialog":"frmPanelGMT","title":"Panel Time","controls":[{"control":"txthrsfromGMT",)j"
       R"j("kind":"TextBox","caption":"Panel Time differs from GMT by","frame":"Hours From GMT(UTC)","enabled":true,)j"

@@ -187,6 +187,35 @@ TEST_F(FormTest, UnitsAndAlternativesStandWithTheirField) {
   EXPECT_EQ(names(form.RightButtons), "cmdOK cmdCancel");
 }
 
+TEST_F(FormTest, PeopleReadTranslationsOfWhatTheLogicKeepsInEnglish) {
+  static constexpr FixedText words[] = {{"Low", 7}, {"only", 8}, {"Rest", 9}};
+  Label lblFixed(Form, "lblFixed", {"&Name:", 6});
+  ComboBox cmbFixed(Form, "cmbFixed", {.Common = {.Fixed = words}});
+  Dialog titled("frmTitled", {"Title", 5}, {});
+  cmbFixed.AddItem("High"), cmbFixed.AddItem("Low");
+  EXPECT_EQ(lblFixed.TranslatedCaption(), "&Name:") << "without a catalogue";
+  UseHost(Host, {{5, "Titel"}, {6, "&Zahl:"}, {7, "Wenig"}, {8, "nur"}});
+  EXPECT_EQ(lblFixed.TranslatedCaption(), "&Zahl:");
+  for (const auto& [text, read] : {std::pair("Low", "Wenig"), std::pair("5 only", "5 nur"), std::pair("Slow", "Slow"),
+                                   std::pair("Low 5", "Low 5"), std::pair("Rest", "Rest"), std::pair("", "")}) {
+    EXPECT_EQ(cmbFixed.Translated(text), read);
+  }
+  During([&] {
+    for (const auto letter : {U'n', U'z'}) EXPECT_FALSE(Form.PressKey(Key::Access(letter)));
+    Type(U'w');
+    EXPECT_EQ(cmbFixed.Text(), "Low");
+    cmbFixed.SetListIndex(0), Form.PauseTyping(), Type(U'l');
+    EXPECT_EQ(cmbFixed.Text(), "Low");
+  });
+  EXPECT_EQ(titled.TranslatedCaption(), "Titel");
+  titled.SetCaption("Title");
+  EXPECT_EQ(titled.TranslatedCaption(), "Title") << "a new caption is not the fixed one, whatever it says";
+  titled.SetCaption("Edit", "Bearbeiten");
+  EXPECT_EQ(titled.Caption() + titled.TranslatedCaption(), "EditBearbeiten");
+  lblFixed.SetCaption("Other");
+  EXPECT_EQ(lblFixed.TranslatedCaption(), "Other");
+}
+
 TEST_F(DialogTest, CodeMovesTheFocusOutOfReachOrOn) {
   txtTwo.SetVisible(false);
   EXPECT_EQ(During([&] { txtTwo.SetFocus(), Type(U'a'); }), (Log{"txtOne_LostFocus", "txtTwo_GotFocus"}));

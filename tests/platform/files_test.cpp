@@ -75,7 +75,11 @@ TEST(TextCatalogue, ReplacesTextByTextAndFallsBackTextByText) {
     EXPECT_EQ(another.GetLocalTextBASE(number), text) << number;
   }
   EXPECT_EQ(another.GetLocalTextBASE(120), "Only there");
-  EXPECT_EQ(TextCatalogue(nullptr, LanguageOf("de")).GetLocalTextBASE(119), "Abbrechen");
+  TextCatalogue german(replaced, LanguageOf("de"));
+  EXPECT_EQ(german.GetLocalTextBASE(119), "Abbrechen");
+  EXPECT_EQ(german.GetOtherLanguagesBASE(119), std::vector<std::string>{"Cancel"});
+  for (const std::int16_t replacedOrUnknown : {101, 100})
+    EXPECT_TRUE(german.GetOtherLanguagesBASE(replacedOrUnknown).empty());
 }
 
 TEST(LanguageOf, TakesTheNamesOfLocales) {

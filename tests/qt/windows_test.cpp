@@ -1,6 +1,7 @@
 #include <QtWidgets>
 #include <stdexcept>
 
+#include "OrlinCustomDialogs/host/texts.h"
 #include "OrlinCustomDialogs/hosts/qt/qt_host.h"
 #include "OrlinCustomDialogs/zones.h"
 
@@ -198,6 +199,42 @@ TEST_F(WindowsTest, ScreenReadersHearLabelsAndRoles) {
   });
 }
 
+TEST_F(WindowsTest, FixedTextsAreReadInTheOperatorsLanguage) {
+  static constexpr FixedText words[] = {{"N/A", 1}};
+  struct {
+    Dialog Form{"frmFixed", {"Title", 2}, {}};
+    Frame fraAll{Form, "fraAll", {"Frame", 2}};
+    Label lblRows{fraAll, "lblRows", {"&Rows:", 3}};
+    ListBox lstRows{fraAll, "lstRows", {.Common = {.Fixed = words}}};
+    ComboBox cmbRows{Form, "cmbRows", {.Common = {.Fixed = words}}};
+    TextBox txtRow{Form, "txtRow", {.Text = "N/A", .Common = {.Fixed = words}}};
+    Grid grdRows{Form, "grdRows", {.Rows = 1, .Cols = 1, .Common = {.Fixed = words}}};
+    Button cmdGo{Form, "cmdGo", {"Go", 2}};
+  } fixed;
+  UseHost({std::shared_ptr<void>(), this},
+          {{1, "entf\u00E4llt"}, {2, "Titel"}, {3, "&Zeilen:"}, {texts::Copy, "&Kopieren"}});
+  fixed.lstRows.AddItem("N/A"), fixed.cmbRows.AddItem("N/A"), fixed.grdRows.SetCellText(0, 0, "N/A");
+  Operate = [&](shown::Dialog&) {
+    const QString word = QStringLiteral("entf\u00E4llt"), title = QStringLiteral("Titel");
+    EXPECT_EQ(Window->windowTitle(), title);
+    EXPECT_EQ(Of<QGroupBox>(fixed.fraAll).title(), title);
+    EXPECT_EQ(Of<QLabel>(fixed.lblRows).text(), "&Zeilen:");
+    EXPECT_EQ(Of<QWidget>(fixed.lstRows).accessibleName(), "Zeilen");
+    EXPECT_EQ(Of<QAbstractItemView>(fixed.lstRows).model()->index(0, 0).data(), word);
+    EXPECT_EQ(Of<QComboBox>(fixed.cmbRows).itemText(0), word);
+    EXPECT_EQ(Of<QLineEdit>(fixed.txtRow).text(), word);
+    EXPECT_EQ(Of<QAbstractItemView>(fixed.grdRows).model()->index(0, 0).data(), word);
+    EXPECT_EQ(Of<QPushButton>(fixed.cmdGo).text(), title);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, {}, {});
+    QApplication::sendEvent(&Of<QLineEdit>(fixed.txtRow), &event);
+    const auto* menu = Of<QLineEdit>(fixed.txtRow).findChild<QMenu*>();
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->actions().at(1)->text(), "&Kopieren");
+    EXPECT_EQ(menu->actions().at(2)->text(), "&Paste");
+  };
+  fixed.Form.ShowModal();
+}
+
 TEST_F(WindowsTest, HiddenPartsLeaveNoHoles) {
   Show([&] {
     const int before = Window->sizeHint().height();
@@ -265,7 +302,7 @@ TEST(ColourTest, TheColoursOfPasscodesCanBeReadOnAnyGround) {
 class QtHostTest : public ::testing::Test {
  protected:
   QtHostTest() {
-    UseHost(Host);
+    UseHost(Host, {{texts::No, "&Nein"}});
     Main->setStyleSheet("QMessageBox, QDialog { color: #123456 }");
     Main->show();
   }
@@ -286,6 +323,8 @@ TEST_F(QtHostTest, AMessageShowsWhatTheHandlerHasDoneSoFar) {
       EXPECT_EQ(box.parentWidget()->findChild<QLineEdit*>()->text(), "new");
       EXPECT_EQ(box.text(), "Sure?");
       EXPECT_EQ(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+      EXPECT_EQ(box.button(QMessageBox::No)->text(), "&Nein") << "in the language of the message";
+      EXPECT_EQ(box.button(QMessageBox::Yes)->text(), "&Yes") << "which the catalogue lacks";
       box.button(QMessageBox::No)->click();
     });
     EXPECT_EQ(sample.Form.ShowMessage("Sure?", Message::YesNo, "Title"), answers::No);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <tuple>
@@ -51,10 +52,23 @@ class OperatorHost : public DialogHost {
   std::vector<Message> Messages;
 };
 
-/// Has this host show the dialogs, on a platform of nothing else.
-inline void UseHost(std::shared_ptr<DialogHost> host) {
+/// A catalogue of a few texts.
+class FewTexts : public LocalTextComponent {
+ public:
+  explicit FewTexts(std::map<int, std::string> texts) : texts_(std::move(texts)) {}
+  std::string GetLocalTextBASE(std::int16_t id) override { return texts_[id]; }
+
+ private:
+  std::map<int, std::string> texts_;
+};
+
+/// Has this host show the dialogs, on a platform of nothing else than perhaps a few texts.
+inline void UseHost(std::shared_ptr<DialogHost> host, const std::map<int, std::string>& texts = {}) {
   Platform platform;
   platform.Host = std::move(host);
+  if (!texts.empty()) {
+    platform.Components["LocalText.clsLocalText"] = [texts] { return std::make_shared<FewTexts>(texts); };
+  }
   UsePlatform(std::move(platform));
 }
 

@@ -1,3 +1,4 @@
+#include "catalogue/languages.h"
 #include "support/dialog_call.h"
 
 namespace orlin::testing {
@@ -41,6 +42,7 @@ TEST(BirchDescription, NameOfATypeAnywhereInTheDescriptionAllowsVerification) {
   Strings rows = {"1|0|" + Text(1731) + "|false"};
   for (std::int16_t type = 1723; type <= 1730; ++type) {
     rows.push_back("1|0|x" + Text(type) + "y|true");
+    rows.push_back("1|0|" + std::string(LanguageOf("de").Find(type)) + "|true");
     rows.push_back("1|0|x" + Text(type).substr(1) + "|false");  // another first letter
   }
   ExpectEach({.Call = kDescription + "[0,'{2}']", .Script = "dump", .Words = "ChkAlarmVerified.enabled", .Texts = true},

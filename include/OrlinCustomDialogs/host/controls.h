@@ -271,6 +271,12 @@ class Control {
   /// Whether the control is disabled because the operator's rights do not reach it; false also where nothing tells.
   [[nodiscard]] virtual bool DeniedByRights() const noexcept { return false; }
 
+  /// A text of this control, its caption, a row, a cell or what a box holds, as people read it: what the dialog keeps
+  /// in English, whatever the language, is translated, and all else is given back as it is. For eyes and ears alone:
+  /// scripts and stored values have the text itself.
+  [[nodiscard]] virtual std::string Translated(const std::string& text) const = 0;
+  [[nodiscard]] std::string TranslatedCaption() const { return Translated(Caption()); }
+
  protected:
   ~Control() = default;
 };
@@ -314,6 +320,9 @@ class Dialog {
 
   /// The close box.
   virtual void Close() = 0;
+
+  /// The caption as people read it (see `Control::Translated`).
+  [[nodiscard]] virtual std::string TranslatedCaption() const = 0;
 
  protected:
   ~Dialog() = default;

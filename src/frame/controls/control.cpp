@@ -1,5 +1,7 @@
 #include "frame/controls/control.h"
 
+#include "OrlinCustomDialogs/host/texts.h"
+
 #include "frame/controls/frame.h"
 #include "frame/dialog/dialog.h"
 #include "frame/services/modGeneral.h"
@@ -63,6 +65,8 @@ Control::Control(ControlKind kind, const Container& in, std::string_view name, c
       caption_(caption.Text),
       captionNumber_(caption.Number),
       spokenNumber_(state.Spoken),
+      fixedCaption_{caption.Text, caption.Translation},
+      fixed_(state.Fixed),
       tag_(state.Tag) {
   form_->Take(*this);
 }
@@ -119,6 +123,18 @@ Refusal Control::Press() { return name_ + " is a " + std::string(KindName(kind_)
 void Control::LoadTexts() {
   if (captionNumber_ != 0) SkipFailure([this] { SetCaption(GetLocalText(captionNumber_)); });
   if (spokenNumber_ != 0) SkipFailure([this] { spokenName_ = GetLocalText(spokenNumber_); });
+}
+
+std::string Control::Translated(const std::string& text) const {
+  if (fixedCaption_.Translation != 0 && text == fixedCaption_.Text) {
+    return CatalogueText(fixedCaption_.Translation, text);
+  }
+  for (const auto& fixed : fixed_) {
+    if (!text.ends_with(fixed.Text)) continue;
+    const auto before = text.substr(0, text.size() - fixed.Text.size());
+    if (before.empty() || before.ends_with(' ')) return before + CatalogueText(fixed.Translation, fixed.Text);
+  }
+  return text;
 }
 
 void Control::Touch() const { form_->Touched(); }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -17,15 +18,23 @@ class Control;
 class Dialog;
 class Frame;
 
-/// Where a caption comes from: a number of the catalogue, loaded with the dialog, or a text of its own.
+/// A text that stays as it is in the logic of a dialog, and the number of what people read in its place.
+struct FixedText {
+  std::string_view Text;
+  std::int16_t Translation;
+};
+
+/// Where a caption comes from: a number of the catalogue, loaded with the dialog, or a fixed text, with the number of
+/// its translation where it is in words.
 struct CaptionSource {
   CaptionSource() = default;
   CaptionSource(std::int16_t number) : Number(number) {}
   CaptionSource(int number) : Number(static_cast<std::int16_t>(number)) {}
-  CaptionSource(const char* text) : Text(text) {}
+  CaptionSource(const char* text, std::int16_t translation = 0) : Text(text), Translation(translation) {}
 
   std::int16_t Number = 0;
-  std::string Text;
+  std::string_view Text;
+  std::int16_t Translation = 0;
 };
 
 /// What a control is declared in: the dialog, or a frame of it.
@@ -51,6 +60,8 @@ struct ControlState {
   int Width = 0;
   const char* Tag = "";
   std::int16_t Spoken = 0;  ///< the number of the name for people who do not see the control; 0 for none
+  /// What the dialog writes in English into rows, cells or box: as the whole text, or behind a value and a blank.
+  std::span<const FixedText> Fixed = {};
 };
 
 /// What all kinds of controls have in common: their state, and the logic's side of it. Setting anything loads the
@@ -83,6 +94,7 @@ class Control : public shown::Control {
   [[nodiscard]] std::string SpokenName() const override { return spokenName_; }
   [[nodiscard]] std::string Objection() const override;
   [[nodiscard]] bool DeniedByRights() const noexcept final { return denied_ && !enabled_; }
+  [[nodiscard]] std::string Translated(const std::string& text) const override;
   Refusal Focus() final;
   Refusal Press() override;
 
@@ -165,6 +177,8 @@ class Control : public shown::Control {
   std::int16_t captionNumber_;  // in the catalogue; 0 for a caption that is not loaded
   std::int16_t spokenNumber_;   // likewise
   std::string spokenName_;
+  FixedText fixedCaption_;
+  std::span<const FixedText> fixed_;
   std::optional<std::int32_t> backColor_;
   bool tabStop_ = true;
   std::string tag_;

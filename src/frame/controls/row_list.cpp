@@ -144,7 +144,7 @@ void RowList::PickByTyping(char32_t character) {
   typed_.push_back(SmallLetter(character));
   for (int i = 0; i < ListCount(); ++i) {
     const int row = (first + i) % ListCount();
-    if (!BeginsWith(List(row), typed_)) continue;
+    if (!BeginsWith(List(row), typed_) && !BeginsWith(owner_.Translated(List(row)), typed_)) continue;
     if (row != listIndex_) Select(row, By::Operator);
     return;
   }

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "OrlinCustomDialogs/host/texts.h"
+
 #include "frame/services/modGeneral.h"
 #include "frame/services/services.h"
 #include "frame/values/skip_failure.h"
@@ -13,6 +15,7 @@ Dialog::Dialog(std::string_view name, const CaptionSource& title, const orlin::L
       host_(CurrentHost()),
       caption_(title.Text),
       titleNumber_(title.Number),
+      titleTranslation_(title.Translation),
       life_(life),
       width_(size.Width),
       height_(size.Height) {
@@ -39,10 +42,17 @@ void Dialog::Centre() {
   ++revision_;
 }
 
-void Dialog::SetCaption(std::string caption) {
+void Dialog::SetCaption(std::string caption, std::string translated) {
   Touched();
   caption_ = std::move(caption);
+  translatedCaption_ = std::move(translated);
+  titleTranslation_ = 0;
   ++revision_;
+}
+
+std::string Dialog::TranslatedCaption() const {
+  if (titleTranslation_ != 0) return CatalogueText(titleTranslation_, caption_);
+  return translatedCaption_.empty() ? caption_ : translatedCaption_;
 }
 
 void Dialog::SetWidth(int width) {

@@ -51,6 +51,7 @@ class Dialog : public shown::Dialog {
   Refusal PressKey(const Key& key) override;
   void PauseTyping() noexcept override { ++typingPauses_; }
   void Close() override { shown_ = false; }
+  [[nodiscard]] std::string TranslatedCaption() const override;
 
   /// The dialog becomes active, and a key arrives that none of its buttons takes, before its control.
   Event<> OnActivate;
@@ -65,7 +66,8 @@ class Dialog : public shown::Dialog {
   void LoadCaptions();
   /// Moves the dialog to the middle of the screen.
   void Centre();
-  void SetCaption(std::string caption);
+  /// `translated`: what people read in its place, where the caption is in English whatever the language.
+  void SetCaption(std::string caption, std::string translated = {});
   void SetWidth(int width);
   void SetHeight(int height);
 
@@ -117,6 +119,8 @@ class Dialog : public shown::Dialog {
   DialogHost& host_;
   std::string caption_;
   std::int16_t titleNumber_;
+  std::int16_t titleTranslation_;  // of the fixed caption that the dialog is made with; 0 for none
+  std::string translatedCaption_;  // of one that is set later
   orlin::Life life_;
   int left_ = 0;
   int top_ = 0;

@@ -77,8 +77,9 @@ void Dialog::PressButton(Button* button) const {
 
 Refusal Dialog::PressAccessKey(char32_t letter) {
   for (auto* control : controls_) {
-    // The text of a status line marks nothing.
-    const bool marks = control->Kind() != ControlKind::StatusBar && AccessKey(control->Caption()) == letter;
+    // The text of a status line marks nothing. Of a caption that is translated for people, both letters lead there.
+    const bool marks = control->Kind() != ControlKind::StatusBar &&
+                       (AccessKey(control->Caption()) == letter || AccessKey(control->TranslatedCaption()) == letter);
     if (!marks || !control->WithinReach()) continue;
     if (control->Kind() == ControlKind::Label) {
       auto* named = control->Names();

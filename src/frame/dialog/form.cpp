@@ -211,11 +211,12 @@ Form FormOf(const shown::Dialog& dialog) {
 }
 
 std::string Form::NameOf(const Control& control) const {
-  if (!control.Caption().empty()) return control.Caption();
+  if (!control.Caption().empty()) return control.TranslatedCaption();
   if (auto spoken = control.SpokenName(); !spoken.empty()) return spoken;
-  if (const auto label = Labels.find(&control); label != Labels.end()) return label->second->Caption();
+  if (const auto label = Labels.find(&control); label != Labels.end()) return label->second->TranslatedCaption();
   const auto* frame = control.Parent();
-  return frame != nullptr && !frame->Caption().empty() ? frame->Caption() : control.Form().Caption();
+  return frame != nullptr && !frame->Caption().empty() ? frame->TranslatedCaption()
+                                                       : control.Form().TranslatedCaption();
 }
 
 bool Form::Shows(const Control& control) const {

@@ -1,7 +1,9 @@
 #include "frame/services/modGeneral.h"
 
 #include <string>
+#include <vector>
 
+#include "OrlinCustomDialogs/host/texts.h"
 #include "OrlinCustomDialogs/version.h"
 
 #include "frame/services/modRegistry.h"
@@ -62,6 +64,25 @@ std::string GetLocalText(int id) {
     ReportFault(kGetLocalTextFault, failure, "");
     return {};
   }
+}
+
+std::vector<std::string> GetLocalTextInAllLanguages(std::int16_t id) {
+  std::vector<std::string> texts{GetLocalText(id)};
+  if (Services().Catalogue == nullptr) return texts;
+  const auto others = Services().Catalogue->GetOtherLanguagesBASE(id);
+  texts.insert(texts.end(), others.begin(), others.end());
+  return texts;
+}
+
+std::string CatalogueText(std::int16_t number, std::string_view otherwise) {
+  std::string text;
+  SkipFailure([&] {
+    // One that the call does not have is made, but not kept: what is shown changes nothing in the call.
+    auto catalogue = Services().Catalogue;
+    if (catalogue == nullptr) catalogue = Create<LocalTextComponent>("LocalText.clsLocalText");
+    text = catalogue->GetLocalTextBASE(number);
+  });
+  return text.empty() ? std::string(otherwise) : text;
 }
 
 std::string GetLocalText(int id, const std::string& sName, const std::string& sValue) {

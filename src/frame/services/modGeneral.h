@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "frame/values/skip_failure.h"
 
@@ -13,6 +14,9 @@ inline constexpr std::string_view kAppName = "Tolmar";
 
 /// The text with that catalogue number, or an empty text. Creates the catalogue object where there is none.
 [[nodiscard]] std::string GetLocalText(int id);
+
+/// The text, and those of other languages that the catalogue has.
+[[nodiscard]] std::vector<std::string> GetLocalTextInAllLanguages(std::int16_t id);
 
 /// The same with the variable %sName% of the text replaced.
 [[nodiscard]] std::string GetLocalText(int id, const std::string& sName, const std::string& sValue);
