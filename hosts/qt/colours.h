@@ -26,8 +26,8 @@ inline constexpr double kMarkContrast = 3;
 /// the window and on that of a field. The style makes them out of the colour of windows, which is another one here.
 [[nodiscard]] QPalette Outlined(QPalette palette);
 
-/// Both, for windows whose palette would be `given`. They stay the same from window to window: styles keep what they have
-/// drawn, and find it again by the palette.
+/// Both, for windows whose palette would be `given`. They stay the same from window to window: styles keep what they
+/// have drawn, and find it again by the palette.
 struct WindowPalettes {
   QPalette Window;
   QPalette Inside;

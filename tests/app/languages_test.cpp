@@ -1,9 +1,8 @@
 #include <initializer_list>
 #include <set>
 
-#include "OrlinCustomDialogs/platform/standard_platform.h"
-
 #include "OrlinCustomDialogs/host/form.h"
+#include "OrlinCustomDialogs/platform/standard_platform.h"
 
 #include "app/account/account.h"
 #include "app/calls/arguments.h"

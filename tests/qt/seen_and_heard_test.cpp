@@ -19,6 +19,8 @@
 #include <gtest/gtest.h>
 
 #include "OrlinCustomDialogs/host/form.h"
+#include "OrlinCustomDialogs/hosts/qt/qt_host.h"
+#include "OrlinCustomDialogs/platform/standard_platform.h"
 #include "OrlinCustomDialogs/security_levels.h"
 
 #include "app/account/account.h"
@@ -26,9 +28,7 @@
 #include "qt/colours.h"
 #include "qt/dialog_window.h"
 #include "qt/help_line.h"
-#include "OrlinCustomDialogs/hosts/qt/qt_host.h"
 #include "qt/stand_over.h"
-#include "OrlinCustomDialogs/platform/standard_platform.h"
 
 // What a technician sees and hears of every dialog of the example account.
 
