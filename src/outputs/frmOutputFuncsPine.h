@@ -35,9 +35,9 @@ class frmOutputFuncsPine {
   Dialog Form{"frmOutputFuncsPine", 1264, kUsualLife};
 
   Frame fraCode{Form, "fraCode", 1265};
-  TextBox txtDigit1{fraCode, "txtDigit1", {.MaxLength = 1, .Common = {.Spoken = 20003}}};
+  TextBox txtDigit1{fraCode, "txtDigit1", {.MaxLength = 1, .Common = {.Spoken = 20043}}};
   Label lblComma{fraCode, "lblComma", ",", Label::Separator};
-  TextBox txtDigit2{fraCode, "txtDigit2", {.MaxLength = 2, .Common = {.Spoken = 20004}}};
+  TextBox txtDigit2{fraCode, "txtDigit2", {.MaxLength = 2, .Common = {.Spoken = 20044}}};
   Label txtFunctionCode{fraCode, "txtFunctionCode", {}, Label::Unit};
   ListBox lstFunctionCode{Form, "lstFunctionCode"};
   OKButton cmdOK{Form};

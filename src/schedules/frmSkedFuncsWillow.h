@@ -66,7 +66,7 @@ class frmSkedFuncsWillow {
   TextBox txtHour{fraTime, "txtHour", {.Text = "00", .MaxLength = 2, .Common = {.Spoken = 20000}}};
   Label lblTimeColon{fraTime, "lblTimeColon", ":", Label::Separator};
   TextBox txtMinute{fraTime, "txtMinute", {.Text = "00", .MaxLength = 2, .Common = {.Spoken = 20001}}};
-  Label lblIndicator{fraTime, "lblIndicator", "24", Label::Unit, {.Spoken = 20002}};
+  Label lblIndicator{fraTime, "lblIndicator", "24", Label::Unit, {.Spoken = 20042}};
   UpDown udTime{fraTime, "udTime"};
   Label lblHourMinDef{fraTime, "lblHourMinDef", 1521, Label::Text};
   CheckBox chkTimeEdit{fraTime, "chkTimeEdit", 1522};

@@ -42,7 +42,7 @@ class frmTime {
   TextBox txtHour{Form, "txtHour", {.Text = "00", .MaxLength = 2, .Common = {.Spoken = 20000}}};
   Label Label1{Form, "Label1", ":", Label::Separator};
   TextBox txtMinute{Form, "txtMinute", {.Text = "00", .MaxLength = 2, .Common = {.Spoken = 20001}}};
-  Label lblIndicator{Form, "lblIndicator", "24", Label::Unit, {.Spoken = 20002}};
+  Label lblIndicator{Form, "lblIndicator", "24", Label::Unit, {.Spoken = 20042}};
   UpDown UpDown1{Form, "UpDown1"};
   StatusBar StatusBar1{Form, "StatusBar1"};
   OKButton cmdOK{Form};

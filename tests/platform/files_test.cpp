@@ -78,7 +78,7 @@ TEST(TextCatalogue, ReplacesTextByTextAndFallsBackTextByText) {
   TextCatalogue german(replaced, LanguageOf("de"));
   EXPECT_EQ(german.GetLocalTextBASE(119), "Abbrechen");
   EXPECT_EQ(german.GetOtherLanguagesBASE(119), std::vector<std::string>{"Cancel"});
-  for (const std::int16_t replacedOrUnknown : {101, 100})
+  for (const auto replacedOrUnknown : std::initializer_list<std::int16_t>{101, 100})
     EXPECT_TRUE(german.GetOtherLanguagesBASE(replacedOrUnknown).empty());
 }
 
