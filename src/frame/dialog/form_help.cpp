@@ -103,9 +103,10 @@ void TellText(Line& line, const Form& form, const Control& box) {
   const auto* unit = UnitOf(form, box);
   if (const auto* stepper = StepperOf(box)) {
     const bool hasUnit = unit != nullptr && !unit->Caption().empty();
-    line.Add(hasUnit ? help::NumberWithUnit : help::Number, {{"MIN", std::to_string(stepper->Min())},
-                                                             {"MAX", std::to_string(stepper->Max())},
-                                                             {"UNIT", hasUnit ? PlainCaption(unit->Caption()) : ""}});
+    line.Add(hasUnit ? help::NumberWithUnit : help::Number,
+             {{"MIN", std::to_string(stepper->Min())},
+              {"MAX", std::to_string(stepper->Max())},
+              {"UNIT", hasUnit ? PlainCaption(unit->TranslatedCaption()) : ""}});
   } else if (text.MultiLine()) {
     line.Add(help::Lines);
   } else if (text.MaxLength() == 0) {
