@@ -148,7 +148,7 @@ TEST_F(ControlsTest, SpaceAndArrowsWorkButtonsAndMarks) {
   EXPECT_EQ(During([&] { cmdPress.Focus(), Type(U' '); }), Log{"cmdPress_Click"});
   EXPECT_EQ(During([&] { chkOn.Focus(), Type(U' '); }), Log{"chkOn_Click"});
   EXPECT_EQ(During([&] { optA.Press(), Press(keys::Up); }), (Log{"optA_Click", "optB_Click"}));
-  EXPECT_TRUE(optB.HasFocus());
+  EXPECT_TRUE(optB.HasFocus() && !optA.Value());
   EXPECT_TRUE(optElsewhere.Value()) << "another container";
   EXPECT_EQ(During([&] { lstChecks.Focus(), Press(keys::Down), Type(U' '); }), Log{"lstChecks_ItemCheck 0"});
   EXPECT_TRUE(lstChecks.Selected(0));
