@@ -72,8 +72,11 @@ TEST_F(AccountTest, AHundredTimesOkLeaveEveryParameterOfTheExampleWhichHasEveryE
 
 TEST_F(AccountTest, EachWriterChangesHisOwnParameterAlone) {
   const auto* const file = Write(kZones);
+  constexpr std::filesystem::perms mode{0640};
+  std::filesystem::permissions(file, mode);
   Account one(file), other(file);
   EXPECT_TRUE(one.Store(0, Zone(5, "1111")));
+  EXPECT_EQ(std::filesystem::status(file).permissions(), mode);
   EXPECT_NE(ContentOf(file).find("\"note\": \"stays\""), std::string::npos);
   EXPECT_TRUE(other.Store(1, Zone(6, "2111")));
   EXPECT_EQ(other.ValuesOf(0), Zone(5, "1111")) << "read again";

@@ -100,6 +100,8 @@ TEST_F(ControlsTest, ListsKeepRowsNumbersAndSelection) {
   lstOne.AddItem("d", 7);
   EXPECT_EQ(lstOne.ItemData(4), 7);
   EXPECT_EQ(lstOne.List(0) + "," + lstOne.List(9), "top,");
+  During([&] { cmbEdit.SetListIndex(1), cmbEdit.Paste("x"); });
+  EXPECT_EQ(cmbEdit.ListIndex(), -1) << "a text that is typed is no row";
   lstOne.Clear();
   EXPECT_EQ(std::pair(0 + lstOne.ListCount(), 0 + lstOne.ListIndex()), std::pair(0, -1));
 }
