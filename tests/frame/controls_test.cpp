@@ -100,6 +100,8 @@ TEST_F(ControlsTest, ListsKeepRowsNumbersAndSelection) {
   lstOne.AddItem("d", 7);
   EXPECT_EQ(lstOne.ItemData(4), 7);
   EXPECT_EQ(lstOne.List(0) + "," + lstOne.List(9), "top,");
+  During([&] { cmbEdit.SetListIndex(1), cmbEdit.Paste("x"); });
+  EXPECT_EQ(cmbEdit.ListIndex(), -1) << "a text that is typed is no row";
   lstOne.Clear();
   EXPECT_EQ(std::pair(0 + lstOne.ListCount(), 0 + lstOne.ListIndex()), std::pair(0, -1));
 }
@@ -148,7 +150,7 @@ TEST_F(ControlsTest, SpaceAndArrowsWorkButtonsAndMarks) {
   EXPECT_EQ(During([&] { cmdPress.Focus(), Type(U' '); }), Log{"cmdPress_Click"});
   EXPECT_EQ(During([&] { chkOn.Focus(), Type(U' '); }), Log{"chkOn_Click"});
   EXPECT_EQ(During([&] { optA.Press(), Press(keys::Up); }), (Log{"optA_Click", "optB_Click"}));
-  EXPECT_TRUE(optB.HasFocus());
+  EXPECT_TRUE(optB.HasFocus() && !optA.Value());
   EXPECT_TRUE(optElsewhere.Value()) << "another container";
   EXPECT_EQ(During([&] { lstChecks.Focus(), Press(keys::Down), Type(U' '); }), Log{"lstChecks_ItemCheck 0"});
   EXPECT_TRUE(lstChecks.Selected(0));

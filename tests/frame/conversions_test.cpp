@@ -28,8 +28,9 @@ std::string Outcome(Convert convert, const Value& value) {
 TEST(Conversions, TakeAValueAsAWholeOrFail) {
   const Value shortNumber(std::int16_t{-5});
   const std::pair<Value, const char*> cases[] = {
-      {Value(), "0"},  {0.5, "0"},   {1.5, "2"},     {2.5, "2"},     {-1.5, "-2"},     {shortNumber, "-5"},
-      {"-.5e1", "-5"}, {true, "-1"}, {" 12 ", "12"}, {"1e2", "100"}, {32767, "32767"}, {32767.4, "32767"}};
+      {Value(), "0"},      {0.5, "0"},         {1.5, "2"},        {2.5, "2"},     {-1.5, "-2"},
+      {shortNumber, "-5"}, {"-.5e1", "-5"},    {true, "-1"},      {" 12 ", "12"}, {"1e2", "100"},
+      {32767, "32767"},    {32767.4, "32767"}, {-32768, "-32768"}};
   const Value notANumber(std::nan(""));
   const std::pair<Value, const char*> refused[] = {
       {32768, "fails 6"},   {-32769, "fails 6"},   {32767.5, "fails 6"},     {notANumber, "fails 6"},

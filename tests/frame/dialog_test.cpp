@@ -68,8 +68,8 @@ TEST_F(DialogTest, PasteGoesThroughTheKeysAndSkipsLineEndsOfSingleLines) {
   EXPECT_EQ(During([&] { txtTwo.Paste("a\r\nb"); }),
             (Log{"txtOne_LostFocus", "txtTwo_GotFocus", "txtTwo_KeyDown 65", "txtTwo_KeyPress 97", "txtTwo_Change a",
                  "txtTwo_KeyDown 66", "txtTwo_KeyPress 98", "txtTwo_Change ab"}));
-  During([&] { txtNotes.Paste("a\nb\r\nc"); });
-  EXPECT_EQ(txtNotes.Text(), "a\r\nb\r\nc");
+  During([&] { txtNotes.Paste("a\nb\r\n\tc"); });
+  EXPECT_EQ(txtNotes.Text(), "a\r\nb\r\n\tc");
 }
 
 TEST_F(DialogTest, EnterAndEscapePressTheButtonsWhereTheyAre) {

@@ -78,14 +78,17 @@ TEST_F(GridTest, FixedCellsAreNeverCurrent) {
 TEST_F(GridTest, RowsComeAndGo) {
   fa.AddItem("t\tnew\tbeyond", 1);
   EXPECT_EQ(std::tuple(fa.Rows(), fa.CellText(1, 1), fa.CellText(2, 1)), std::tuple(5, "new", "1a"));
-  fa.RemoveItem(1);
+  fa.SelectCell(4, 1), fa.RemoveItem(1);
+  EXPECT_EQ(fa.Row(), 3);
   EXPECT_EQ(fa.CellText(1, 1), "1a");
   fa.SelectCell(3, 1), fa.SetRows(2);
   EXPECT_EQ(fa.Row(), 1);
   fa.SetRows(1);
   EXPECT_EQ(fa.Row(), -1);
-  fa.SetCellText(7, 7, "ignored");
-  EXPECT_EQ(fa.CellText(7, 7), "");
+  for (const auto& [row, col] : {std::pair(7, 7), {0, 2}, {1, 0}, {-1, 0}}) {
+    fa.SetCellText(row, col, "ignored");
+    EXPECT_EQ(fa.CellText(row, col), "");
+  }
   EXPECT_EQ(FailureOf([&] { fa.RemoveItem(1); }), failures::InvalidPropertyValue);
   EXPECT_EQ(FailureOf([&] { fa.AddItem("", 9); }), failures::InvalidPropertyValue);
 }

@@ -8,6 +8,7 @@
 #include "frame/services/modRegistry.h"
 #include "frame/services/modStoreObj.h"
 #include "store/data_list.h"
+#include "store/file_database_engine.h"
 #include "support/broken_catalogue.h"
 
 namespace orlin::testing {
@@ -35,6 +36,15 @@ class NotingStore : public DataList {
   Log& told_;
 };
 
+struct NotingEngine : FileDatabaseEngine {
+  NotingEngine(const std::filesystem::path& drives, Log& told) : FileDatabaseEngine(drives), Told(told) {}
+  DatabasePtr OpenDatabase(const std::string& path, bool exclusive, bool readOnly, const std::string& text) override {
+    Told.push_back(std::string("tried") + (exclusive ? " exclusively" : "") + (readOnly ? " for reading" : ""));
+    return FileDatabaseEngine::OpenDatabase(path, exclusive, readOnly, text);
+  }
+  Log& Told;
+};
+
 class ServicesTest : public BrokenCatalogueTest {
  protected:
   ServicesTest() {
@@ -50,6 +60,7 @@ class ServicesTest : public BrokenCatalogueTest {
     Parts.Components["storeObj.clsDList"] = [=, this] {
       return std::make_shared<NotingStore>(DataListPlaces{{{entry}}, Folder.Path()}, Told);
     };
+    Parts.Engine = std::make_shared<NotingEngine>(Folder.Path(), Told);
     UsePlatform(Parts);
   }
   void Without(const std::string& component) {
@@ -83,6 +94,8 @@ TEST_F(ServicesTest, SettingsAreStringsUpToTheirFirstZero) {
     EXPECT_EQ(GetRegSetting("Tolmar", "Setup", name, "d"), value);
   }
   EXPECT_EQ(GetRegSetting("Tolmar", "Elsewhere", "Path", "d"), "d");
+  const auto key = Parts.Settings->RegOpenKeyA(SettingsStore::Hive::LocalMachine, "Software\\Varnek\\Tolmar\\Setup");
+  EXPECT_EQ(key, 1) << "no other one is open";
   UsePlatform({});
   EXPECT_EQ(GetRegSetting("Tolmar", "Setup", "Path", "d"), "d");
 }
@@ -123,14 +136,15 @@ TEST_F(ServicesTest, OpensADatabaseByTheTypeOfItsEntry) {
   const auto file = Folder.Path() / "c" / "notes.db";
   std::filesystem::create_directory(file.parent_path());
   const auto connect = "Driver=SQLite3;Database=" + file.string();
-  const Log fixed{"14 characters of password"}, none{"user me", "0 characters of password"},
+  const Log tried{"tried for reading"}, triedAndFixed{"tried for reading", "14 characters of password"},
+      fixed{"14 characters of password"}, none{"user me", "0 characters of password"},
       decrypted{"user me", "3 characters of password"};
   const char* const junk = "no database at all";
   using Case = std::tuple<std::string, const char*, bool, std::int32_t, Log, std::string, std::string, std::string>;
   const Case cases[] = {{"Access", "", false, 0, fixed, "", "", ""},
-                        {"access", "", true, 0, fixed, "", "", ""},
+                        {"access", "", true, 0, triedAndFixed, "", "", ""},
                         {"ACCESS", junk, false, 3049, fixed, "", "", ""},
-                        {"ACCESS", junk, true, 3049, {}, GetLocalText(1082, "DB_PATH", "C:\\notes.db"), "", ""},
+                        {"ACCESS", junk, true, 3049, tried, GetLocalText(1082, "DB_PATH", "C:\\notes.db"), "", ""},
                         {"ACCESS", nullptr, false, 3049, fixed, GetLocalText(1084, "DB_PATH", "C:\\notes.db"), "", ""},
                         {"odbc", "", true, 0, none, "", "", connect},
                         {"ODBC", nullptr, true, 3049, decrypted, "", CCrypt::EncryptString("abc"), "Driver=none"},

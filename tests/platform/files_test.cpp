@@ -25,7 +25,7 @@ std::string ErrorIn(const char* file) {
 }
 
 TEST_F(CatalogueFile, HoldsNumbersAndTexts) {
-  const std::string characters = "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x94\x92";
+  const std::string characters = "\xC3\xA4\xE2\x82\xAC\xF4\x8F\xBF\xBF";
   Folder.Write("texts.tsv", "\xEF\xBB\xBF# comment\r\n\r\n \t\n7\tSeven\r\n1\ta\\tb\\nc\\rd\\\\e\n32767\t" +
                                 characters + "\n3\ttwo\ttabs # no comment\n4\t\n5\tno line end");
   EXPECT_EQ(ReadCatalogueFile("texts.tsv"), (TextTable{{1, "a\tb\nc\rd\\e"},

@@ -73,7 +73,6 @@ until_closed '^Zone Function$'
 window_titled '^Account of panel'
 press Down Return
 window_titled '^Edit Zone 12$'
-expect '"ZoneCode": "\"3146\""'
 press Down Return # the type from 3 to 4
 until_closed '^Edit Zone 12$'
 window_titled '^Account of panel'
