@@ -53,7 +53,7 @@ std::string RawOf(const Account::Parameter& parameter, bool withSecrets) {
 }  // namespace
 
 AccountTable::AccountTable(Account& account, StandardPlatformOptions platform)
-    : account_(account), options_(std::move(platform)), windows_(StandardPlatform(options_)) {
+    : account_(account), windows_(StandardPlatform(platform)), describer_(std::move(platform)) {
   texts_ = std::dynamic_pointer_cast<LocalTextComponent>(windows_.Components.at("LocalText.clsLocalText")());
   Update();
   first_ = now_;
@@ -135,32 +135,37 @@ std::string AccountTable::Undo() { return done_.empty() ? Text(kNothingToUndo) :
 std::string AccountTable::Redo() { return undone_.empty() ? Text(kNothingToRedo) : PutBack(undone_, done_, false); }
 
 std::string AccountTable::PutBack(std::vector<Change>& from, std::vector<Change>& to, bool undo) {
-  auto change = std::move(from.back());
-  from.pop_back();
+  const auto& change = from.back();
   const auto keys = Keys();
   const auto row = static_cast<std::size_t>(std::find(keys.begin(), keys.end(), change.Key) - keys.begin());
   const auto name = change.Key.substr(0, change.Key.find('\n'));
-  if (row == keys.size()) return Filled(kGone, {{"NAME", name}});
+  if (row == keys.size()) {
+    from.pop_back();
+    return Filled(kGone, {{"NAME", name}});
+  }
+  // What cannot be written now stays to be put back.
   return Guarded(name, [&] {
-    const auto& editor = *account_.Parameters()[row].Class;
+    const auto parameter = account_.Parameters()[row];
     const auto& left = undo ? change.After : change.Before;
     const auto& wanted = undo ? change.Before : change.After;
-    auto found = account_.ValuesOf(row);
+    std::string told;
     try {
-      if (!DifferentPlaces(editor, found, left).empty()) throw ChangedMeanwhile({}, found);
+      const auto found = account_.ValuesOf(row);
+      if (!DifferentPlaces(*parameter.Class, found, left).empty()) throw ChangedMeanwhile({}, found);
       account_.Store(row, wanted);
+      told = Filled(undo ? kUndone : kRedone, {{"NAME", name}});
+      to.push_back(change);
     } catch (const ChangedMeanwhile& error) {
-      return Clash(account_.Parameters()[row], error.Found, wanted);
+      told = Clash(parameter, error.Found, wanted);
     }
-    to.push_back(std::move(change));
-    return Filled(undo ? kUndone : kRedone, {{"NAME", name}});
+    from.pop_back();
+    return told;
   });
 }
 
 std::string AccountTable::Clash(const Account::Parameter& parameter, const std::vector<Value>& there,
-                                const std::vector<Value>& here) const {
-  Describer describer(options_);
-  const auto words = Words(describer, *parameter.Class, there, here);
+                                const std::vector<Value>& here) {
+  const auto words = Words(*parameter.Class, there, here);
   return Filled(kClash, {{"NAME", parameter.Name}, {"THERE", words.first}, {"HERE", words.second}});
 }
 
@@ -187,7 +192,6 @@ std::vector<std::string> AccountTable::Keys() const {
 }
 
 std::vector<std::string> AccountTable::Update() {
-  Describer describer(options_);
   std::vector<std::string> changed;
   auto before = std::exchange(now_, {});
   rows_.clear();
@@ -198,14 +202,14 @@ std::vector<std::string> AccountTable::Update() {
     auto& held = now_[keys[i]] = std::move(before[keys[i]]);
     if (const auto raw = RawOf(parameter, true); raw != held.Shown.Raw) {
       held.Values = account_.ValuesOf(i);
-      held.Shown = {WordsOf(describer.Describe(editor, held.Values, ValueForm::Stored)), raw};
+      held.Shown = {WordsOf(describer_.Describe(editor, held.Values, ValueForm::Stored)), raw};
       changed.push_back(parameter.Name);
     }
     auto& row = rows_.emplace_back(ParameterRow{parameter.Name, editor.Name(), held.Shown, std::nullopt});
     const auto first = first_.find(keys[i]);
     if (first != first_.end() && first->second.Shown != held.Shown) {
       row.Before = first->second.Shown;
-      std::tie(row.Before->Words, row.Now.Words) = Words(describer, editor, first->second.Values, held.Values);
+      std::tie(row.Before->Words, row.Now.Words) = Words(editor, first->second.Values, held.Values);
     }
     if (!HasSecret(editor) || secretsShown_) continue;
     row.Now = {std::string(kDots), RawOf(parameter, false)};
@@ -214,12 +218,11 @@ std::vector<std::string> AccountTable::Update() {
   return changed;
 }
 
-std::pair<std::string, std::string> AccountTable::Words(Describer& describer, const PublicClass& editor,
-                                                        const std::vector<Value>& a,
-                                                        const std::vector<Value>& b) const {
+std::pair<std::string, std::string> AccountTable::Words(const PublicClass& editor, const std::vector<Value>& a,
+                                                        const std::vector<Value>& b) {
   if (HasSecret(editor) && !secretsShown_) return {std::string(kDots), std::string(kDots)};
-  auto words = DifferentWords(describer.Describe(editor, a, ValueForm::Stored),
-                              describer.Describe(editor, b, ValueForm::Stored));
+  auto words = DifferentWords(describer_.Describe(editor, a, ValueForm::Stored),
+                              describer_.Describe(editor, b, ValueForm::Stored));
   if (words.first != words.second) return words;
   words = {};
   for (const auto i : DifferentPlaces(editor, a, b)) {

@@ -49,18 +49,17 @@ class AccountTable final : public ParameterTable {
   std::string Edit(std::size_t row);
   std::string PutBack(std::vector<Change>& from, std::vector<Change>& to, bool undo);
   [[nodiscard]] std::string Clash(const Account::Parameter& parameter, const std::vector<Value>& there,
-                                  const std::vector<Value>& here) const;
+                                  const std::vector<Value>& here);
   [[nodiscard]] std::vector<std::string> Keys() const;
   /// What two sets of values mean, as far as it differs; the values themselves where it does not.
-  [[nodiscard]] std::pair<std::string, std::string> Words(Describer& describer, const PublicClass& editor,
-                                                          const std::vector<Value>& a,
-                                                          const std::vector<Value>& b) const;
+  [[nodiscard]] std::pair<std::string, std::string> Words(const PublicClass& editor, const std::vector<Value>& a,
+                                                          const std::vector<Value>& b);
   /// Brings the rows up to date, and returns the names of those that hold something else now.
   std::vector<std::string> Update();
 
   Account& account_;
-  StandardPlatformOptions options_;
   Platform windows_;
+  Describer describer_;
   std::shared_ptr<LocalTextComponent> texts_;
   std::vector<ParameterRow> rows_;
   struct Held {

@@ -7,6 +7,8 @@
 #include "OrlinCustomDialogs/failure.h"
 #include "OrlinCustomDialogs/host/dialog_host.h"
 
+#include "app/calls/installed_platform.h"
+
 namespace orlin {
 
 /// Shows dialogs to nobody: keeps what they tell as they come up, and closes them.
@@ -77,9 +79,10 @@ Platform Describer::PlatformFor(const std::shared_ptr<Host>& host, StandardPlatf
 }
 
 Describer::Describer(StandardPlatformOptions platform, Wording wording)
-    : host_(std::make_shared<Host>(wording)), installed_(PlatformFor(host_, std::move(platform))) {}
+    : host_(std::make_shared<Host>(wording)), platform_(PlatformFor(host_, std::move(platform))) {}
 
 Description Describer::Describe(const PublicClass& publicClass, std::vector<Value> values, ValueForm form) {
+  const InstalledPlatform installed(platform_);
   const auto failure = Call(publicClass, std::move(values), form).Failure();
   auto description = host_->Take(failure);
   description.Class = publicClass.Name();

@@ -8,12 +8,11 @@
 #include "OrlinCustomDialogs/value.h"
 
 #include "app/calls/call.h"
-#include "app/calls/installed_platform.h"
 #include "app/description/description.h"
 
 namespace orlin {
 
-/// Tells what values mean, in words. As long as it lives, the library stands on the platform of this one.
+/// Tells what values mean, in words. The library stands on a platform of its own while it does.
 class Describer {
  public:
   /// Faults are recorded only where the platform names a file. `PlatformError` for one that makes no sense.
@@ -24,10 +23,10 @@ class Describer {
 
  private:
   class Host;
-  static Platform PlatformFor(const std::shared_ptr<Host>& host, StandardPlatformOptions options);
+  static orlin::Platform PlatformFor(const std::shared_ptr<Host>& host, StandardPlatformOptions options);
 
   std::shared_ptr<Host> host_;
-  InstalledPlatform installed_;
+  orlin::Platform platform_;
 };
 
 }  // namespace orlin

@@ -207,9 +207,12 @@ void DialogWindow::PresentHelp() {
     if (widget == nullptr || !view->Control().IsShown()) continue;
     NameDropDown(*view);
     const auto help = orlin::Shown(form_.HelpFor(view->Control()));
-    if (widget->toolTip() == help) continue;
+    const auto remark = remarks_.find(&view->Control());
+    const auto wrong = remark != remarks_.end() ? remark->second->property("remark").toString() : QString();
+    const auto description = wrong.isEmpty() ? help : wrong + u' ' + help;
+    if (widget->toolTip() == help && widget->accessibleDescription() == description) continue;
     widget->setToolTip(help);
-    widget->setAccessibleDescription(help);
+    widget->setAccessibleDescription(description);
   }
 }
 
@@ -396,13 +399,13 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
 void DialogWindow::keyPressEvent(QKeyEvent* event) { TakeKey(nullptr, *event); }
 
 void DialogWindow::TakeKey(ControlView* view, const QKeyEvent& key) {
-  if (code_ != nullptr && code_->TakeTab(key)) return;
-  if (view != nullptr && view->TakeWindowKey(key)) return;
-  if (key.key() == Qt::Key_Escape && EscapeEnds() && !MayEnd()) return;
   if (key.key() == Qt::Key_F1) {
     if (const auto page = HelpPageOf(dialog_.Name()); !page.isEmpty()) ShowHelpPage(page, *this);
     return;
   }
+  if (code_ != nullptr && code_->TakeTab(key)) return;
+  if (view != nullptr && view->TakeWindowKey(key)) return;
+  if (key.key() == Qt::Key_Escape && EscapeEnds() && !MayEnd()) return;
   constexpr qint64 typingPause = 1000;
   if (ServesPerson() && sinceKey_.isValid() && sinceKey_.elapsed() > typingPause) {
     dialog_.PauseTyping();

@@ -8,6 +8,7 @@
 
 #include "OrlinCustomDialogs/platform/standard_platform.h"
 
+#include "app/account/account_table.h"
 #include "app/calls/installed_platform.h"
 #include "app/usage/usage_error.h"
 #include "support/dialog_test.h"
@@ -152,6 +153,36 @@ TEST_F(AccountTest, TellsWhatMakesNoSense) {
     const auto error = ErrorOf<UsageError>([&, &text = parameters] { return Account(Write(text)); });
     EXPECT_NE(error.find(what), std::string::npos) << error;
   }
+}
+
+TEST_F(AccountTest, ChangesAreTakenBackWhereTheFileCanBeWrittenAndNobodyElseWasThere) {
+  StandardPlatformOptions options;
+  const auto host = std::make_shared<OperatorHost>();
+  host->Operate = [](shown::Dialog& dialog) {
+    static_cast<void>(dialog.Find("cmbDigit(0)")->AsRowList()->PickRow(2));
+    static_cast<void>(dialog.Find("cmdOK")->Press());
+  };
+  options.Host = host;
+  Account account(Write(kZones));
+  AccountTable table(account, options);
+  const auto stored = [](std::size_t row) { return Account("account.json").ValuesOf(row).at(1); };
+  EXPECT_EQ(table.Open(1), "Zone: stored");
+  EXPECT_EQ(table.Rows()[1].Before->Raw, "ZoneNum=6  ZoneCode=\"5146\"");
+
+  std::filesystem::rename("account.json", "elsewhere");
+  EXPECT_TRUE(table.Undo().starts_with("Zone: not stored, cannot "));
+  std::filesystem::rename("elsewhere", "account.json");
+  EXPECT_EQ(table.Undo(), "Zone: undone");
+  EXPECT_EQ(table.Undo(), "There is nothing to undo.");
+  EXPECT_EQ(stored(1), "5146");
+  EXPECT_FALSE(table.Rows()[1].Before);
+  EXPECT_EQ(table.Redo(), "Zone: redone");
+  EXPECT_EQ(table.Redo(), "There is nothing to redo.");
+  EXPECT_EQ(stored(0), "5146") << "of the same name";
+
+  Account("account.json").Store(1, Zone(6, "7146"));
+  EXPECT_TRUE(table.Undo().starts_with("Zone: not stored, it was changed by somebody else"));
+  EXPECT_EQ(stored(1), "7146");
 }
 
 }  // namespace
